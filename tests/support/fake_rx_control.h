@@ -1,0 +1,28 @@
+// A receive control that records what was sent through it as transcript-style lines.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "sdk/rx_control.h"
+
+class FakeRxControl : public IIrbeRxControl {
+ public:
+  explicit FakeRxControl(int kind = 2, int number = 1) : kind_(kind), number_(number) {}
+
+  int Kind() const override { return kind_; }
+  int Send(int* result, otp_handle_t handle, int reserved, int* err) override;
+  int Subscribe(int* result, const uint32_t* keys, const otp_value* values, int count, int, int,
+                int, int one, int* err) override;
+
+  void failSends(bool fail) { failSends_ = fail; }
+  // `send N name id="v" ...` and `subscribe N id="v" ...`, as the headless transcript shows.
+  const std::vector<std::string>& lines() const { return lines_; }
+  void clear() { lines_.clear(); }
+
+ private:
+  int kind_;
+  int number_;
+  bool failSends_ = false;
+  std::vector<std::string> lines_;
+};
