@@ -11,7 +11,7 @@ int FakeRxControl::Send(int* result, otp_handle_t handle, int, int* err) {
   if (!msg) return 0;
   std::vector<otpx::Field> fields;
   for (size_t i = 0; i < msg->fieldCount(); ++i) fields.push_back(msg->fieldAt(i));
-  lines_.push_back(otpx::renderLine("send", number_, fields));
+  record(otpx::renderLine("send", number_, fields));
   if (result) *result = 1;
   return 1;
 }
@@ -21,7 +21,12 @@ int FakeRxControl::Subscribe(int* result, const uint32_t* keys, const otp_value*
   std::vector<otpx::Field> fields;
   for (int i = 0; i < count; ++i)
     fields.push_back({keys[i], std::string_view(values[i].data, values[i].len)});
-  lines_.push_back(otpx::renderLine("subscribe", number_, fields));
+  record(otpx::renderLine("subscribe", number_, fields));
   if (result) *result = 1;
   return 1;
+}
+
+void FakeRxControl::record(std::string line) {
+  if (sink_) sink_->push_back(line);
+  lines_.push_back(std::move(line));
 }

@@ -8,7 +8,9 @@
 
 class FakeRxControl : public IIrbeRxControl {
  public:
-  explicit FakeRxControl(int kind = 2, int number = 1) : kind_(kind), number_(number) {}
+  // Lines go to `sink` too when given, so several controls can share one transcript.
+  explicit FakeRxControl(int kind = 2, int number = 1, std::vector<std::string>* sink = nullptr)
+      : kind_(kind), number_(number), sink_(sink) {}
 
   int Kind() const override { return kind_; }
   int Send(int* result, otp_handle_t handle, int reserved, int* err) override;
@@ -23,6 +25,8 @@ class FakeRxControl : public IIrbeRxControl {
  private:
   int kind_;
   int number_;
+  std::vector<std::string>* sink_;
   bool failSends_ = false;
+  void record(std::string line);
   std::vector<std::string> lines_;
 };
