@@ -1,17 +1,17 @@
-// Dates and times as the order screens and history print them, in local time.
+// Dates and times as the order screens and the order history print them, in local time, with
+// the C library's month names ("Jan".."Dec") whatever the user's locale.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 
-// Writes the date of `time` in `style` (0..9) into `buffer`; a style above 9 writes nothing.
-// Always returns 1.
-int formatDateText(char* buffer, int32_t time, int style);
-
-// Same as formatDateText, returning the text.
+// The date of `time` (seconds since 1970) in one of ten styles:
+//   0 "%d%b%Y" 05Jan2024     1 as 0 in capitals 05JAN2024   2 "%d" 05
+//   3 "%d%b" 05Jan           4 as 3 in capitals 05JAN       5 "%x" 01/05/24 (the C locale's)
+//   6 "%d-%m-%Y" 05-01-2024  7 "%d/%m/%Y" 05/01/2024        8 "%d/%b/%Y" 05/Jan/2024
+//   9 "%d-%b-%Y" 05-Jan-2024
+// Any other style gives an empty text.
 std::string dateText(int32_t time, int style);
 
-// "%d%b%Y %H:%M:%S" of `time` into `buffer` (at most `size` bytes, capped at 50 characters).
-// A time below 1 gives an empty text and 0; otherwise 1.
-int formatTimeText(int32_t time, char* buffer, size_t size);
+// "%d%b%Y %H:%M:%S" of `time`, at most 49 characters; empty for a time below 1.
+std::string timeText(int32_t time);

@@ -1,0 +1,19 @@
+#include "domain/char_classes.h"
+
+#include <algorithm>
+
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool isLetterOrDigit(char c) {
+  return isDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+bool isDigits(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), isDigit);
+}
+
+bool isAlphanumeric(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), isLetterOrDigit);
+}

@@ -1,0 +1,12 @@
+// Character classes of typed codes and numbers, in ASCII whatever the locale.
+#pragma once
+
+#include <string_view>
+
+bool isDigit(char c);
+bool isLetterOrDigit(char c);
+
+// Every character is a decimal digit (true for an empty text).
+bool isDigits(std::string_view text);
+// Every character is a letter or a decimal digit (true for an empty text).
+bool isAlphanumeric(std::string_view text);
