@@ -1,0 +1,187 @@
+#include "issues/watch_view.h"
+
+#include <ctime>
+
+#include "issues/issue_date.h"
+#include "messaging/issue_admin_requests.h"
+#include "plugin/control_block.h"
+#include "plugin/plugin_identity.h"
+
+namespace {
+
+constexpr std::array<int, kControlCount> kControlKinds{2, 0, 2, 3, 1};
+
+std::string todayText(int64_t now) {
+  const std::time_t t = static_cast<std::time_t>(now);
+  std::tm local{};
+  localtime_r(&t, &local);
+  char buffer[50];
+  std::strftime(buffer, sizeof buffer, "%d/%m/%Y", &local);
+  return buffer;
+}
+
+}  // namespace
+
+CWatchView::CWatchView(COFSControlBlock& block) : block_(block) {
+  for (int i = 0; i < kControlCount; ++i) {
+    IIrbeRxControl* control = block.services.getRxControl
+                                  ? block.services.getRxControl(kControlKinds[i], &block)
+                                  : nullptr;
+    block.layer.setControl(static_cast<Control>(i), control);
+  }
+  block.watchView = this;
+}
+
+CWatchView::~CWatchView() {
+  for (int i = 0; i < kControlCount; ++i) {
+    IIrbeRxControl* control = block_.layer.control(static_cast<Control>(i));
+    block_.layer.setControl(static_cast<Control>(i), nullptr);
+    if (control && block_.services.destroyRxControl) block_.services.destroyRxControl(control);
+  }
+  if (block_.watchView == this) block_.watchView = nullptr;
+}
+
+WatchTab CWatchView::tabFor(const sOFSCol& issue) const {
+  // Dates are compared as 32-bit times, as the list always has.
+  const auto today = static_cast<int32_t>(parseIssueDate(todayText(block_.platform.now())));
+  const auto open = static_cast<int32_t>(parseIssueDate(issue.field49165));
+  const auto close = static_cast<int32_t>(parseIssueDate(issue.field79));
+  if (open > today) return WatchTab::Forthcoming;
+  if (close >= today) return WatchTab::Current;
+  return WatchTab::Past;
+}
+
+void CWatchView::addIssue(sOFSCol* issue) {
+  if (!issue) return;
+  const WatchTab tab = tabFor(*issue);
+  if (tab == WatchTab::Current) currentIds_.push_back(issue->issueId);
+  rows_[index(tab)].push_front(issue);
+  // Selections are row numbers: they move down with the new top row.
+  for (int& row : selection_[index(tab)]) ++row;
+  notify(tab, 0);
+}
+
+sOFSCol* CWatchView::selectedIssue() const {
+  const auto& selected = selection_[index(activeTab_)];
+  const auto& rows = rows_[index(activeTab_)];
+  if (selected.empty() || selected.front() < 0 ||
+      static_cast<size_t>(selected.front()) >= rows.size())
+    return nullptr;
+  return rows[static_cast<size_t>(selected.front())];
+}
+
+std::vector<MenuEntry> CWatchView::contextMenu(WatchTab tab) const {
+  return watchContextMenu(tab, block_.hasRight(kAddIssueRight));
+}
+
+void CWatchView::registerHotkeys(void* window) const {
+  if (!block_.services.registerHotkey) return;
+  const bool mayAddIssues = block_.hasRight(kAddIssueRight);
+  for (const HotkeyRow& row : watchHotkeys()) {
+    if (row.needsAddIssueRight && !mayAddIssues) continue;
+    block_.services.registerHotkey(window, row.caption, row.number, row.name, row.key,
+                                   kHotkeyOwner);
+  }
+}
+
+bool CWatchView::requireAddIssueRight() {
+  if (block_.hasRight(kAddIssueRight)) return true;
+  block_.platform.prompt().message("Add/Modify OFS Issue details has not been enabled");
+  return false;
+}
+
+void CWatchView::cancelUnallottedOrders() {
+  sOFSCol* issue = selectedIssue();
+  if (!issue) {
+    block_.hostMessageBox("Please select an issue");
+    return;
+  }
+  requestCancelUnallotted(block_.layer, issue->issueId, issue->exchange);
+  const std::string text = "OFS Cancel Unalloted Orders Request sent for " + issue->issueId;
+  block_.log(text);
+  block_.hostMessageBox(text);
+}
+
+void CWatchView::runCommand(int command) {
+  // Admin commands are refused here as well as left out of the menus, so no path (menu,
+  // shortcut, script) can send an admin request without the right.
+  const bool admin = command == kCmdUploadIssues || command == kCmdExportIssues ||
+                     command == kCmdAllotmentNse || command == kCmdAllotmentBse ||
+                     command == kCmdCancelUnallotted;
+  if (admin && !block_.hasRight(kAddIssueRight)) return;
+
+  sOFSCol* issue = selectedIssue();
+  switch (command) {
+    case kCmdAddIssue:
+      if (requireAddIssueRight() && launcher_) launcher_->openIssueDetails(nullptr);
+      return;
+    case kCmdModifyIssue:
+      if (!requireAddIssueRight()) return;
+      if (!issue) {
+        block_.platform.prompt().message("Please select scrip for modification");
+        return;
+      }
+      if (launcher_) launcher_->openIssueDetails(issue);
+      return;
+    case kCmdOrderEntry:
+      if (!issue) return;
+      if (issue->biddingFlag == "N") {
+        block_.platform.prompt().message("Bid is Not Allowed For this Scrip");
+        return;
+      }
+      if (launcher_) launcher_->openOrderEntry(*issue);
+      return;
+    case kCmdCancelUnallotted:
+      cancelUnallottedOrders();
+      return;
+    default:
+      break;
+  }
+  if (!launcher_) return;
+  switch (command) {
+    case kCmdOrderBook:
+      launcher_->openOrderBook();
+      break;
+    case kCmdBasketOrder:
+      launcher_->openBasket();
+      break;
+    case kCmdScripProperties:
+      if (issue) launcher_->openScripProperties(*issue);
+      break;
+    case kCmdMarketDepth:
+      if (issue) launcher_->openMarketDepth(*issue);
+      break;
+    case kCmdUploadIssues:
+      launcher_->openIssueUpload();
+      break;
+    case kCmdExportIssues:
+      launcher_->openIssueExport();
+      break;
+    case kCmdAllotmentNse:
+      launcher_->openAllotmentUpload("nse_ipo");
+      break;
+    case kCmdAllotmentBse:
+      launcher_->openAllotmentUpload("bse_ipo");
+      break;
+    default:
+      break;
+  }
+}
+
+void CWatchView::runHotkey(int number) {
+  if (number == kKeyOrderBookDelete) {
+    if (launcher_) launcher_->deleteInOrderBook();
+    return;
+  }
+  // The add and modify shortcuts exist only for holders of the right; a stray number does not
+  // get past the right check in runCommand either.
+  if (const int command = commandForHotkey(number)) runCommand(command);
+}
+
+void CWatchView::assetShown(const std::string&, const std::string&) {
+  notify(WatchTab::Current, -1);
+}
+
+void CWatchView::refresh() {
+  for (WatchTab tab : {WatchTab::Current, WatchTab::Forthcoming, WatchTab::Past}) notify(tab, -1);
+}

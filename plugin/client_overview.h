@@ -1,0 +1,20 @@
+// The subscriptions of the clients assigned to the user, made by a detached worker.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "messaging/message_layer.h"
+#include "sdk/host_services.h"
+
+class COFSControlBlock;
+
+// Starts the worker when the host has the client overview on and names the assigned clients.
+void startClientOverview(COFSControlBlock& block);
+
+// The worker's body: two subscriptions a client, a pause after every 100th client, one log line
+// at the end. `pause` and `log` are the worker's only ways out besides the subscribe path.
+void subscribeAssignedClients(const MessageLayer& layer, const StringList& clients,
+                              const std::function<void()>& pause,
+                              const std::function<void(const std::string&)>& log);

@@ -1,0 +1,245 @@
+#include <gtest/gtest.h>
+
+#include "issues/issue_date.h"
+#include "issues/watch_columns.h"
+#include "issues/watch_view.h"
+#include "plugin/control_block.h"
+#include "plugin/lifecycle.h"
+#include "tests/support/fake_host.h"
+
+namespace {
+
+class WatchViewTest : public testing::Test {
+ protected:
+  WatchViewTest() {
+    host.clock = localTime(21, 11, 2026, 10 * 3600);
+    initPlugin(host, host.app(), "U1", 3);
+    host.state.events.clear();
+  }
+  ~WatchViewTest() override { exitPlugin(host); }
+
+  CWatchView& view() { return *host.view; }
+  sOFSCol* issue(const std::string& id, const std::string& open, const std::string& close) {
+    auto col = std::make_unique<sOFSCol>();
+    col->issueId = id;
+    col->exchange = "bse_ipo";
+    col->field49165 = open;
+    col->field79 = close;
+    issues.push_back(std::move(col));
+    return issues.back().get();
+  }
+  std::vector<std::string> ids(WatchTab tab) {
+    std::vector<std::string> out;
+    for (const sOFSCol* c : view().rows(tab)) out.push_back(c->issueId);
+    return out;
+  }
+
+  FakeHost host;
+  std::vector<std::unique_ptr<sOFSCol>> issues;
+};
+
+struct PlacementCase {
+  const char* name;
+  const char* open;
+  const char* close;
+  WatchTab tab;
+};
+
+class Placement : public WatchViewTest, public testing::WithParamInterface<PlacementCase> {};
+
+TEST_P(Placement, DatesChooseTheTab) {
+  view().addIssue(issue("I1", GetParam().open, GetParam().close));
+  EXPECT_EQ(ids(GetParam().tab), (std::vector<std::string>{"I1"}));
+  EXPECT_EQ(view().currentIssueIds().size(), GetParam().tab == WatchTab::Current ? 1u : 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Dates, Placement,
+    testing::Values(
+        PlacementCase{"opens_and_closes_today", "21/11/2026", "21/11/2026", WatchTab::Current},
+        PlacementCase{"closed_yesterday", "19/11/2026", "20/11/2026", WatchTab::Past},
+        PlacementCase{"opens_tomorrow_closes_earlier", "22/11/2026", "01/11/2026",
+                      WatchTab::Forthcoming},
+        PlacementCase{"month_names", "20-Nov-2026", "25-Nov-2026", WatchTab::Current},
+        PlacementCase{"month_names_run_together", "23Nov2026", "25Nov2026", WatchTab::Forthcoming},
+        PlacementCase{"next_year_by_name", "01/Jan/2027", "05/Jan/2027", WatchTab::Forthcoming},
+        PlacementCase{"refused_open_date_is_never_forthcoming", "31/04/2027", "30/11/2026",
+                      WatchTab::Current},
+        PlacementCase{"refused_close_date_is_past", "01/11/2026", "29/02/2027", WatchTab::Past},
+        PlacementCase{"upper_case_month_is_no_month", "01/11/2026", "30-NOV-2026", WatchTab::Past}),
+    [](const auto& info) { return info.param.name; });
+
+struct DateCase {
+  const char* text;
+  bool valid;
+};
+
+class IssueDate : public testing::TestWithParam<DateCase> {};
+
+TEST_P(IssueDate, RefusesDaysTheMonthDoesNotHave) {
+  EXPECT_EQ(parseIssueDate(GetParam().text) != -1, GetParam().valid) << GetParam().text;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Days, IssueDate,
+    testing::Values(DateCase{"29/02/2024", true}, DateCase{"29/02/2025", false},
+                    DateCase{"29/02/2000", true}, DateCase{"29/02/1900", false},
+                    DateCase{"31/06/2026", false}, DateCase{"30/06/2026", true},
+                    DateCase{"31/12/2026", true}, DateCase{"32/12/2026", false},
+                    DateCase{"10/13/2026", false}, DateCase{"", false}, DateCase{"abc", false},
+                    DateCase{"10-Foo-2026", false}));
+
+TEST_F(WatchViewTest, NewestIssueStandsOnTop) {
+  view().addIssue(issue("I1", "01/11/2026", "30/11/2026"));
+  view().addIssue(issue("I2", "01/11/2026", "30/11/2026"));
+  EXPECT_EQ(ids(WatchTab::Current), (std::vector<std::string>{"I2", "I1"}));
+  EXPECT_EQ(view().currentIssueIds(), (std::vector<std::string>{"I1", "I2"}));
+}
+
+TEST_F(WatchViewTest, SelectionFollowsItsRowWhenAnIssueArrivesAbove) {
+  view().addIssue(issue("I1", "01/11/2026", "30/11/2026"));
+  view().setSelection(WatchTab::Current, {0});
+  view().addIssue(issue("I2", "01/11/2026", "30/11/2026"));
+  EXPECT_EQ(view().selectedIssue()->issueId, "I1");
+}
+
+TEST(WatchColumns, TextsOfAFilledIssue) {
+  sOFSCol col;
+  col.issueId = "I1";
+  col.issueSize = 1234567.5;
+  col.tickSize = 0.05;
+  col.exchange = "nse_ipo";
+  col.minQuantity = 10;
+  col.lotSizeText = "5";
+  col.field61002 = "extra";
+  EXPECT_EQ(watchColumnText(&col, 0), "I1");
+  EXPECT_EQ(watchColumnText(&col, 3), "1234568");
+  EXPECT_EQ(watchColumnText(&col, 4), "0.05");
+  EXPECT_EQ(watchColumnText(&col, 9), "NSEIPO");
+  col.exchange = "bse_ipo";
+  EXPECT_EQ(watchColumnText(&col, 9), "BSEIPO");
+  EXPECT_EQ(watchColumnText(&col, 11), "10");
+  EXPECT_EQ(watchColumnText(&col, 17), "extra");
+  EXPECT_EQ(watchColumnText(&col, 16, "as passed"), "as passed");
+  sAssetInfo asset;
+  asset.ltp = 123456;
+  asset.decimals = 3;
+  asset.divisor = 1000.0;
+  col.asset = &asset;
+  EXPECT_EQ(watchColumnText(&col, 16, "as passed"), "123.456");
+  EXPECT_EQ(watchColumnText(nullptr, 0), "");
+}
+
+TEST(WatchColumns, KeepTheProductsOwnSpellingAndWidths) {
+  const auto& c = watchColumns();
+  EXPECT_EQ(c[11].name, "Minimun Quantity");
+  EXPECT_EQ(c[1].width, 100);
+  EXPECT_EQ(c[2].width, 50);
+  EXPECT_EQ(c[16].name, "Underlying LTP");
+  EXPECT_EQ(c[16].alignment, 1);
+  for (const auto& column : c) EXPECT_EQ(column.format, 3);
+}
+
+Lines menuTexts(const std::vector<MenuEntry>& menu) {
+  Lines out;
+  for (const MenuEntry& e : menu) {
+    if (e.isSeparator()) {
+      out.push_back("-");
+    } else if (!e.items.empty()) {
+      out.push_back(e.text + " >");
+      for (const MenuEntry& sub : e.items)
+        out.push_back("  " + std::to_string(sub.command) + " " + sub.text);
+    } else {
+      out.push_back(std::to_string(e.command) + " " + e.text);
+    }
+  }
+  return out;
+}
+
+TEST_F(WatchViewTest, MenusWithoutTheRightEndAfterMarketDepth) {
+  EXPECT_EQ(menuTexts(view().contextMenu(WatchTab::Current)),
+            (Lines{"7 Scrip Properties\tShift+F7", "6 Basket Order\tCtrl+B", "-",
+                   "4 Order Entry\tF1", "5 Order Book\tF3", "-", "8 Market Depth\tF6", "-"}));
+  EXPECT_TRUE(view().contextMenu(WatchTab::Forthcoming).empty());
+  EXPECT_TRUE(view().contextMenu(WatchTab::Past).empty());
+}
+
+TEST_F(WatchViewTest, MenusWithTheRightOfferAdministration) {
+  host.state.rights.insert("VT: Add OFS Issue");
+  Lines current = menuTexts(view().contextMenu(WatchTab::Current));
+  EXPECT_EQ(Lines(current.begin() + 8, current.end()),
+            (Lines{"11 Add OFS Issue\tCtrl+A", "10 Modify OFS Issue\tCtrl+M", "30 Upload OFS Issue",
+                   "24 Export All OFS Issues", "-", "OFS Allotment Upload >", "  20 NSE",
+                   "  21 BSE", "22 Cancel UnAlloted Orders for this Issue", "-"}));
+  EXPECT_EQ(menuTexts(view().contextMenu(WatchTab::Forthcoming)),
+            (Lines{"10 Modify OFS Issue\tCtrl+M", "-"}));
+  EXPECT_EQ(menuTexts(view().contextMenu(WatchTab::Past)),
+            (Lines{"22 Cancel UnAlloted Orders for this Issue", "-"}));
+}
+
+TEST_F(WatchViewTest, HotkeysRegisterInTableOrderAndAdminOnesOnlyWithTheRight) {
+  view().registerHotkeys(nullptr);
+  const Lines plain = {
+      "hotkey \"OFS Order Entry\" 100 \"OFSOrderEntry\" \"F1\" \"OFSWatchView\"",
+      "hotkey \"OFS Order Entry\" 100 \"OFSOrderEntry\" \"Plus\" \"OFSWatchView\"",
+      "hotkey \"OFS Order Book\" 200 \"OFSOrderBook\" \"F3\" \"OFSWatchView\"",
+      "hotkey \"OFS BM\" 500 \"OFSBM\" \"Ctrl+B\" \"OFSWatchView\"",
+      "hotkey \"OFSScrip Prop\" 600 \"OFSScripProp\" \"Shift+F7\" \"OFSWatchView\"",
+      "hotkey \"Del\" 1000 \"Order Book\" \"Delete\" \"OFSWatchView\"",
+      "hotkey \"OFSMarket Depth\" 1100 \"MarketDepth\" \"F6\" \"OFSWatchView\""};
+  EXPECT_EQ(host.state.events, plain);
+  host.state.events.clear();
+  host.state.rights.insert("VT: Add OFS Issue");
+  view().registerHotkeys(nullptr);
+  Lines admin = plain;
+  admin.push_back("hotkey \"Add OFS Issue\" 1500 \"Add OFS Issue\" \"Ctrl+A\" \"OFSWatchView\"");
+  admin.push_back(
+      "hotkey \"Modify OFS Issue\" 1600 \"Modify OFS Issue\" \"Ctrl+M\" \"OFSWatchView\"");
+  EXPECT_EQ(host.state.events, admin);
+}
+
+TEST_F(WatchViewTest, CancelUnallottedNeedsTheRightThenASelection) {
+  view().addIssue(issue("I9", "01/11/2026", "20/11/2026"));
+  view().setActiveTab(WatchTab::Past);
+  view().setSelection(WatchTab::Past, {0});
+  view().runCommand(22);
+  EXPECT_TRUE(host.state.events.empty());  // no right: not even the request
+
+  host.state.rights.insert("VT: Add OFS Issue");
+  view().setSelection(WatchTab::Past, {});
+  view().runCommand(22);
+  EXPECT_EQ(host.state.events, (Lines{"hostbox \"Please select an issue\""}));
+
+  host.state.events.clear();
+  view().setSelection(WatchTab::Past, {0});
+  view().runCommand(22);
+  EXPECT_EQ(host.state.events,
+            (Lines{"send 2 om_delete_unalloted_ofs_issue 63001=\"bse_ipo\" 3=\"I9\"",
+                   "log \"OFS Cancel Unalloted Orders Request sent for I9\"",
+                   "hostbox \"OFS Cancel Unalloted Orders Request sent for I9\""}));
+}
+
+TEST_F(WatchViewTest, AddAndModifyIssueAreRefusedWithoutTheRight) {
+  view().runCommand(11);
+  view().runHotkey(1600);
+  EXPECT_EQ(host.promptLog.messages(),
+            (Lines{"Add/Modify OFS Issue details has not been enabled",
+                   "Add/Modify OFS Issue details has not been enabled"}));
+}
+
+TEST_F(WatchViewTest, ModifyIssueNeedsASelectedRow) {
+  host.state.rights.insert("VT: Add OFS Issue");
+  view().runCommand(10);
+  EXPECT_EQ(host.promptLog.messages(), (Lines{"Please select scrip for modification"}));
+}
+
+TEST_F(WatchViewTest, OrderEntryOnAnIssueClosedToBiddingIsRefused) {
+  sOFSCol* closed = issue("I1", "01/11/2026", "30/11/2026");
+  closed->biddingFlag = "N";
+  view().addIssue(closed);
+  view().setSelection(WatchTab::Current, {0});
+  view().runHotkey(100);
+  EXPECT_EQ(host.promptLog.messages(), (Lines{"Bid is Not Allowed For this Scrip"}));
+}
+
+}  // namespace

@@ -1,0 +1,215 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "plugin/client_overview.h"
+#include "plugin/control_block.h"
+#include "plugin/lifecycle.h"
+#include "tests/support/fake_host.h"
+
+namespace {
+
+class Lifecycle : public testing::Test {
+ protected:
+  ~Lifecycle() override { exitPlugin(host); }
+  void init(uint32_t kind = 3) { initPlugin(host, host.app(), "U1", kind); }
+  FakeHost host;
+};
+
+const Lines kControls = {"control 2", "control 0", "control 2", "control 3", "control 1"};
+
+Lines startupRequests(const std::string& identity) {
+  return {
+      "send 2 om_get_ofs_issues 63001=\"nse_ipo\" 53065=\"A\"",
+      "send 2 om_get_ofs_issues 63001=\"bse_ipo\" 53065=\"A\"",
+      "subscribe 3 " + identity + " 63001=\"nse_ipo\" 64001=\"\"",
+      "subscribe 3 " + identity + " 63001=\"bse_ipo\" 64001=\"\"",
+      "send 1 om_order_report_ofs 63059=\"C\" 63001=\"nse_ipo\" 54056=\"C\" 31003=\"U1\"",
+      "send 1 om_order_report_ofs 63059=\"F\" 63001=\"nse_ipo\" 54056=\"F\" 31003=\"U1\"",
+      "send 1 om_order_report_ofs 63059=\"C\" 63001=\"bse_ipo\" 54056=\"C\" 31003=\"U1\"",
+      "send 1 om_order_report_ofs 63059=\"F\" 63001=\"bse_ipo\" 54056=\"F\" 31003=\"U1\"",
+      "send 1 om_get_user_order_ofs 63059=\"walkin\" 63001=\"nse_ipo\" 31003=\"U1\"",
+      "send 1 om_get_user_order_ofs 63059=\"walkin\" 63001=\"bse_ipo\" 31003=\"U1\"",
+      "send 2 om_get_ofs_category",
+      "send 1 om_get_user_peer_data 31003=\"U1\"",
+  };
+}
+
+Lines concat(Lines a, const Lines& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+TEST_F(Lifecycle, StartupObtainsControlsThenSendsRequestsInOrder) {
+  init();
+  ASSERT_NE(controlBlock(), nullptr);
+  EXPECT_EQ(host.state.events, concat(kControls, startupRequests("31003=\"U1\"")));
+  EXPECT_TRUE(host.promptLog.messages().empty());
+}
+
+TEST_F(Lifecycle, PeerIdentitiesAndHostVersionAreTaken) {
+  host.state.peer1 = "P1";
+  host.state.peer2 = "P2";
+  init(2);
+  EXPECT_EQ(controlBlock()->identities[1], "P1");
+  EXPECT_EQ(controlBlock()->identities[2], "P2");
+  EXPECT_EQ(controlBlock()->identities[3], "VornTrader 9.1");
+  EXPECT_EQ(host.state.events[7], "subscribe 3 64053=\"P2\" 63001=\"nse_ipo\" 64001=\"\"");
+}
+
+TEST_F(Lifecycle, AssignedClientsAreSubscribedAfterTheBroadcastsAndLogged) {
+  host.state.clientOverview = true;
+  host.state.assignedClients = {"C1", "C2"};
+  init();
+  Lines expected = startupRequests("31003=\"U1\"");
+  expected.insert(
+      expected.begin() + 4,
+      {"subscribe 1 54001=\"C1\" 63001=\"nse_ipo\"", "subscribe 1 54001=\"C1\" 63001=\"bse_ipo\"",
+       "subscribe 1 54001=\"C2\" 63001=\"nse_ipo\"", "subscribe 1 54001=\"C2\" 63001=\"bse_ipo\"",
+       "log \"Subscribe on Client Overview done for: 2 client\""});
+  EXPECT_EQ(host.state.events, concat(kControls, expected));
+}
+
+TEST_F(Lifecycle, ClientOverviewOffOrWithoutClientsSubscribesNobody) {
+  host.state.clientOverview = false;
+  host.state.assignedClients = {"C1"};
+  init();
+  EXPECT_EQ(host.state.events, concat(kControls, startupRequests("31003=\"U1\"")));
+}
+
+TEST(ClientOverviewWorker, PausesAfterEveryHundredthClient) {
+  FakeRxControl control(2, 1);
+  RecordingPrompt prompt;
+  MessageLayer layer(connectvornOps(), prompt);
+  layer.setControl(Control::First, &control);
+  StringList clients;
+  for (int i = 0; i < 250; ++i) clients.push_back("C" + std::to_string(i));
+  std::vector<size_t> pausesAt;
+  std::string logged;
+  subscribeAssignedClients(
+      layer, clients, [&] { pausesAt.push_back(control.lines().size()); },
+      [&](const std::string& line) { logged = line; });
+  EXPECT_EQ(control.lines().size(), 500u);
+  EXPECT_EQ(pausesAt, (std::vector<size_t>{200, 400}));
+  EXPECT_EQ(logged, "Subscribe on Client Overview done for: 250 client");
+}
+
+struct RefusalCase {
+  const char* name;
+  std::function<void(FakeHostState&)> setUp;
+  const char* message;
+};
+
+class CompatibilityRefusal : public Lifecycle, public testing::WithParamInterface<RefusalCase> {};
+
+TEST_P(CompatibilityRefusal, StopsWithItsMessageAndNoBlockAndSendsNothing) {
+  GetParam().setUp(host.state);
+  init();
+  EXPECT_EQ(controlBlock(), nullptr);
+  EXPECT_EQ(host.promptLog.messages(), (Lines{GetParam().message}));
+  EXPECT_TRUE(host.state.events.empty());
+  EXPECT_EQ(activateClient("C1"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Hosts, CompatibilityRefusal,
+    testing::Values(
+        RefusalCase{"no_module", [](auto& s) { s.hasModule = false; }, "exe Module not found"},
+        RefusalCase{"no_exe_app", [](auto& s) { s.missingServices.insert("pu_get_exe_app"); },
+                    "Exe is not compatible with VAP"},
+        RefusalCase{"no_rights_service",
+                    [](auto& s) { s.missingServices.insert("pu_is_actionright_enabled"); },
+                    "Initialisation failed. VAP not compatible with Trader version."},
+        RefusalCase{"right_refused", [](auto& s) { s.rights.clear(); },
+                    "You are not enabled on OFS."}),
+    [](const auto& info) { return info.param.name; });
+
+TEST_F(Lifecycle, HostWithoutOptionalServicesStillStartsAndEverySendFails) {
+  for (const HostServiceName& s : kHostServiceNames)
+    if (s.name) host.state.missingServices.insert(s.name);
+  host.state.missingServices.erase("pu_is_actionright_enabled");
+  init();
+  ASSERT_NE(controlBlock(), nullptr);
+  EXPECT_TRUE(host.state.events.empty());
+  ASSERT_EQ(host.promptLog.messages().size(), 10u);
+  EXPECT_EQ(host.promptLog.messages()[0], "om_get_ofs_issues is failed , while sending request");
+  EXPECT_EQ(host.promptLog.messages()[9],
+            "om_get_user_peer_data is failed , while sending request");
+}
+
+TEST_F(Lifecycle, SecondInitKeepsTheBlockShowsTheFrameAndSendsAgain) {
+  init();
+  COFSControlBlock* first = controlBlock();
+  host.state.events.clear();
+  init();
+  EXPECT_EQ(controlBlock(), first);
+  EXPECT_EQ(host.state.events, concat({"show frame"}, startupRequests("31003=\"U1\"")));
+}
+
+TEST_F(Lifecycle, ExitSavesLayoutGivesControlsBackAndClearsTheBlock) {
+  exitPlugin(host);  // before init: nothing happens
+  EXPECT_EQ(host.layoutSaves, 0);
+  init();
+  host.state.events.clear();
+  exitPlugin(host);
+  EXPECT_EQ(controlBlock(), nullptr);
+  EXPECT_EQ(host.layoutSaves, 1);
+  EXPECT_EQ(host.state.events.size(), 5u);
+  EXPECT_EQ(host.state.events[0], "destroy control 2");
+  EXPECT_EQ(activateClient("C1"), 0);
+}
+
+TEST_F(Lifecycle, RecoveryFilesSitUnderTheUserDirectoryWhenThereIsOne) {
+  host.state.userDirectory = "/home/dealer";
+  init();
+  EXPECT_EQ(host.recoveryFiles,
+            (Lines{"/home/dealer\\UserSetting.ini", "/home/dealer\\DialogPos.ini"}));
+}
+
+TEST_F(Lifecycle, RecoveryFilesHaveNoDirectoryWithoutOne) {
+  init();
+  EXPECT_EQ(host.recoveryFiles, (Lines{"\\UserSetting.ini", "\\DialogPos.ini"}));
+}
+
+TEST_F(Lifecycle, ActiveClientIsRememberedOnlyWhileRunning) {
+  init();
+  EXPECT_EQ(activateClient("C7"), 1);
+  EXPECT_EQ(activeClient(), "C7");
+  EXPECT_EQ(activateClient(""), 1);
+  EXPECT_EQ(activeClient(), "");
+}
+
+TEST_F(Lifecycle, FontPreferenceRefreshesTheVariationAndReappliesFonts) {
+  applyFontPreference(nullptr, nullptr);  // before init: nothing
+  EXPECT_EQ(host.fontReapplies, 0);
+  init();
+  applyFontPreference(nullptr, nullptr);
+  EXPECT_EQ(host.fontReapplies, 1);
+  EXPECT_EQ(controlBlock()->fontVariation[0], 7);
+  EXPECT_EQ(controlBlock()->fontVariation[1], 9);
+}
+
+TEST(HostServiceBinding, BindsByExactNamesInTableOrderAndLeaves24Null) {
+  struct Everything : SymbolLookup {
+    void* find(const char* name) const override {
+      asked.push_back(name);
+      return const_cast<char*>(name);
+    }
+    mutable std::vector<std::string> asked;
+  } lookup;
+  HostServiceTable table = bindHostServices(lookup);
+  ASSERT_EQ(lookup.asked.size(), 28u);
+  EXPECT_EQ(lookup.asked[0], "pu_get_peer_data");
+  EXPECT_EQ(lookup.asked[2], "DestoryIrbeRxCOntrol");
+  EXPECT_EQ(lookup.asked[22], "pu_get_find_menu_item_in_roles");
+  EXPECT_EQ(lookup.asked[23], "pu_get_UserDirectory");
+  EXPECT_EQ(hostServiceAt(table, 24), nullptr);
+  for (int position = 1; position <= 29; ++position) {
+    if (position == 24) continue;
+    EXPECT_EQ(static_cast<const char*>(hostServiceAt(table, position)),
+              std::string(kHostServiceNames[position - 1].name))
+        << position;
+  }
+}
+
+}  // namespace
