@@ -1,5 +1,7 @@
 #include "domain/date_text.h"
 
+#include <algorithm>
+#include <cstring>
 #include <ctime>
 #include <iomanip>
 #include <locale>
@@ -34,6 +36,13 @@ std::string localTimeText(int32_t time, const char* format) {
   return out.str();
 }
 
+void copyInto(const std::string& text, char* buffer, size_t size) {
+  if (size == 0) return;
+  size_t length = std::min(text.size(), size - 1);
+  std::memcpy(buffer, text.data(), length);
+  buffer[length] = '\0';
+}
+
 }  // namespace
 
 std::string dateText(int32_t time, int style) {
@@ -45,4 +54,15 @@ std::string dateText(int32_t time, int style) {
 std::string timeText(int32_t time) {
   if (time < 1) return {};
   return localTimeText(time, "%d%b%Y %H:%M:%S").substr(0, kMaxTimeText);
+}
+
+int formatDateText(char* buffer, size_t size, int32_t time, int style) {
+  std::memset(buffer, 0, std::min<size_t>(size, 8));
+  copyInto(dateText(time, style), buffer, size);
+  return 1;
+}
+
+int formatTimeText(int32_t time, char* buffer, size_t size) {
+  copyInto(timeText(time), buffer, size);
+  return time < 1 ? 0 : 1;
 }

@@ -2,6 +2,7 @@
 // the C library's month names ("Jan".."Dec") whatever the user's locale.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -15,3 +16,10 @@ std::string dateText(int32_t time, int style);
 
 // "%d%b%Y %H:%M:%S" of `time`, at most 49 characters; empty for a time below 1.
 std::string timeText(int32_t time);
+
+// dateText into `buffer` of `size` bytes, cut to fit; the first 8 bytes are cleared first, so a
+// style above 9 leaves an empty text. Always 1.
+int formatDateText(char* buffer, size_t size, int32_t time, int style);
+
+// timeText into `buffer` of `size` bytes, cut to fit; 1 when written, 0 for a time below 1.
+int formatTimeText(int32_t time, char* buffer, size_t size);
