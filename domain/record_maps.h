@@ -1,0 +1,36 @@
+// The record maps the control block owns: every record is owned by its map and freed with it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "domain/records.h"
+
+template <class Record>
+using RecordMap = std::unordered_map<std::string, std::unique_ptr<Record>>;
+
+struct OFSRecords {
+  RecordMap<sOFSCol> issues;                // by symbol (10100)
+  RecordMap<sOFSIssueSummary> issuesById;   // by issue id (63032)
+  RecordMap<sOFSOrderInfo> orders;          // by OFS order number (64001)
+  RecordMap<sOFSOrderInfo> placedOrders;    // by OFS order number
+  RecordMap<sOFSOrderInfo> filteredOrders;  // by OFS order number
+  RecordMap<sAssetInfo> assets;             // by "cash segment|asset symbol"
+  std::unordered_map<std::string, std::vector<std::string>> categories;  // by category (10610)
+  std::vector<std::string> issueSymbols;                                 // in order of arrival
+  std::vector<std::string> placedOrderNumbers;                           // in order of arrival
+
+  void clear();
+};
+
+// The record under `key`, or null.
+template <class Record>
+Record* findRecord(const RecordMap<Record>& map, const std::string& key) {
+  auto it = map.find(key);
+  return it == map.end() ? nullptr : it->second.get();
+}
+
+// "%s|%s" of the issue's cash segment and its asset symbol.
+std::string assetKey(const sOFSCol& issue);
