@@ -1,0 +1,59 @@
+// One list of the order book ("Open Orders" or "Completed Orders"). Each line points at an
+// order owned by the orders map; row 0 is the top line. Inserting at the top, finding a
+// record's line and deleting a line cost O(log n) at most, so a live update stays cheap
+// however long the book is.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "domain/records.h"
+#include "orderbook/live_slots.h"
+
+// Told of every change, before and after, so that a list model can follow.
+class BookListListener {
+ public:
+  virtual void beforeInsert(size_t /*row*/) {}
+  virtual void afterInsert() {}
+  virtual void beforeRemove(size_t /*row*/) {}
+  virtual void afterRemove() {}
+  virtual void rowChanged(size_t /*row*/) {}
+  virtual void beforeReset() {}
+  virtual void afterReset() {}
+
+ protected:
+  ~BookListListener() = default;
+};
+
+class BookList {
+ public:
+  void setListener(BookListListener* listener) { listener_ = listener; }
+
+  size_t rowCount() const { return count_; }
+  // The order on line `row` (0 is the top); null past the end.
+  sOFSOrderInfo* rowAt(size_t row) const;
+  std::optional<size_t> rowOf(const sOFSOrderInfo* order) const;
+  bool contains(const sOFSOrderInfo* order) const { return slotOf_.contains(order); }
+
+  // Puts a record that is not yet listed on a new top line.
+  void insertTop(sOFSOrderInfo* order);
+  // Deletes the record's line; nothing when it has none.
+  void remove(const sOFSOrderInfo* order);
+  // Tells the listener that the record's line shows new values.
+  void repaint(const sOFSOrderInfo* order);
+  // Replaces every line: each record is put on top in turn, so the last is the top line.
+  void reset(const std::vector<sOFSOrderInfo*>& insertionOrder);
+  void clear() { reset({}); }
+
+ private:
+  void makeRoom();
+  void compact(size_t capacity);
+
+  std::vector<sOFSOrderInfo*> slots_;  // in insertion order; null where a line was deleted
+  std::unordered_map<const sOFSOrderInfo*, size_t> slotOf_;
+  LiveSlots live_;
+  size_t count_ = 0;
+  BookListListener* listener_ = nullptr;
+};
