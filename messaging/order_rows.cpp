@@ -1,0 +1,29 @@
+// Rows that create order records: the order book replies, the filter and the history.
+#include "domain/order_fill.h"
+#include "messaging/dispatch_steps.h"
+#include "orderbook/history_row.h"
+
+void handleReportedOrderRow(DispatchContext& context, const MessageView& row) {
+  std::string orderNo;
+  if (!row.text(64001, 0, orderNo) || !row.has(63100)) return;
+  // A reply only adds orders it does not know; changes come by live update.
+  auto [it, created] = context.records().orders.try_emplace(orderNo);
+  if (!created) return;
+  it->second = std::make_unique<sOFSOrderInfo>();
+  fillReportedOrder(row, *it->second);
+}
+
+void handleFilteredOrderRow(DispatchContext& context, const MessageView& row) {
+  auto order = std::make_unique<sOFSOrderInfo>();
+  fillFilteredOrder(row, *order);
+  context.records().filteredOrders[order->ofsOrderNo] = std::move(order);
+}
+
+void handleHistoryRow(DispatchContext& context, const MessageView& row) {
+  auto line = std::make_unique<sOFSOrderInfo>();
+  if (fillHistoryRow(row, *line)) context.historyRowAdded(std::move(line));
+}
+
+void handlePeerDataRow(DispatchContext& context, const MessageView& row) {
+  context.storePeerData(row.text(28561));
+}
