@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/recording_dispatch_context.h"
+
+namespace {
+
+class MarketData : public testing::Test {
+ protected:
+  MarketData() {
+    context.depth = MarketDepthState{};
+    context.depth->exchange = "nse_ipo";
+    context.depth->symbol = "ABC-RS";
+    context.depth->lastUpdate = "10:00";
+    context.depth->levels[1] = {100, 50, 2};
+    context.depth->totalBidQuantity = 500;
+  }
+  RecordingDispatchContext context;
+};
+
+TEST_F(MarketData, DepthReplyFillsLevelsAndAddsTheQuantityChangeToTbq) {
+  context.respond({{32767, "mrv_master"},
+                   {63001, "nse_ipo"},
+                   {10100, "ABC-RS"},
+                   {55000, "120"},
+                   {55500, "30"},
+                   {56000, "1"},
+                   {55501, "70"}});
+  const MarketDepthState& depth = *context.depth;
+  EXPECT_EQ(depth.lastUpdate, "NA");
+  EXPECT_EQ(depth.levels[0].price, 120);
+  EXPECT_EQ(depth.levels[1].price, 100);  // not in the message: unchanged
+  EXPECT_EQ(depth.levels[1].quantity, 70);
+  EXPECT_EQ(depth.levels[1].bids, 2);
+  EXPECT_EQ(depth.totalBidQuantity, 550);
+  EXPECT_EQ(context.events, (Lines{"depth changed", "host gets nse_ipo ABC-RS"}));
+}
+
+TEST_F(MarketData, LiveDepthKeepsTheTimeWhenEmptyAndTakesTbqWhenGiven) {
+  context.update(
+      {{63001, "nse_ipo"}, {10100, "ABC-RS"}, {63080, ""}, {54283, "900"}, {55500, "99"}});
+  EXPECT_EQ(context.depth->lastUpdate, "10:00");
+  EXPECT_EQ(context.depth->totalBidQuantity, 900);
+}
+
+TEST_F(MarketData, DepthOfAnotherInstrumentOrWithTwoTagsIsIgnored) {
+  context.respond({{32767, "mrv_master"}, {63001, "nse_ipo"}, {10100, "XYZ-RS"}, {55000, "1"}});
+  context.respond({{32767, "mrv_master"}, {63001, "bse_ipo"}, {10100, "ABC-RS"}, {55000, "1"}});
+  context.respond({{32767, "mrv_master"},
+                   {63001, "nse_ipo"},
+                   {10100, "ABC-RS"},
+                   {32760, "a"},
+                   {32760, "b"},
+                   {55000, "1"}});
+  context.respond({{32767, "mrv_master"}, {10100, "ABC-RS"}, {55000, "1"}});
+  EXPECT_EQ(context.depth->levels[0].price, 0);
+  EXPECT_TRUE(context.events.empty());
+}
+
+TEST_F(MarketData, AssetPriceUsesTwoDecimalsByDefaultAndIsShownOnce) {
+  context.store.assets["nse_cm|ABC"] = std::make_unique<sAssetInfo>();
+  FieldList reply{
+      {32767, "mrv_master"}, {63001, "nse_cm"}, {10100, "ABC"}, {6, "12345"}, {32760, "Asset LTP"}};
+  context.respond(reply);
+  const sAssetInfo& asset = *context.store.assets["nse_cm|ABC"];
+  EXPECT_EQ(asset.ltp, 12345);
+  EXPECT_EQ(asset.decimals, 2);
+  EXPECT_EQ(asset.divisor, 100.0);
+  context.update({{63001, "nse_cm"}, {10100, "ABC"}, {6, "1234567"}, {63050, "4"}});
+  EXPECT_EQ(asset.ltp, 1234567);
+  EXPECT_EQ(asset.divisor, 10000.0);
+  context.respond(reply);
+  EXPECT_EQ(asset.decimals, 2);
+  EXPECT_EQ(context.events, (Lines{"asset shown nse_cm ABC"}));
+}
+
+}  // namespace
