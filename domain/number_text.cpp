@@ -6,13 +6,12 @@
 #include <limits>
 #include <system_error>
 
+#include "domain/char_classes.h"
+
 namespace {
 
 bool isSpace(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
-}
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
 }
 
 std::string_view skipSpaces(std::string_view text) {

@@ -14,7 +14,7 @@ constexpr const char* kTooManyRupeeDigits = "cannot have more than 7 digits in r
 constexpr const char* kAmountTooLarge = "Amount Cannot exceed above 9999999";
 constexpr size_t kMaxRupeeDigits = 7;
 
-// Digits, and at most the first point among them.
+// Every character a digit, except the first point.
 bool isPriceText(const std::string& price) {
   size_t point = price.find('.');
   for (size_t i = 0; i < price.size(); ++i) {
