@@ -76,4 +76,13 @@ using pu_show_message_box_fn = int (*)(const std::string& text);
 // Fills every account id mapped to the user. Non-zero on success.
 using pu_get_all_mappedAccount_ids_fn = int (*)(StringList& accountIds);
 
+// Reference-terminal extensions: a production host does not export them, and the plug-in
+// looks them up by name like any optional service. They let a rehearsal host run the plug-in
+// against a chosen clock and pretend to be an older host.
+
+// Seconds since 1970 by the host's clock.
+using vt_host_time_fn = int64_t (*)();
+// Non-zero when the host wants the named service treated as not exported.
+using vt_service_hidden_fn = int (*)(const char* serviceName);
+
 }  // extern "C"

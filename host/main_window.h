@@ -1,0 +1,37 @@
+// The terminal's main window: a document area for plug-in frames and a tabbed log. It is
+// also the host application object handed to plug-ins.
+#pragma once
+
+#include <QMainWindow>
+#include <vector>
+
+#include "sdk/host_app.h"
+
+class QMdiArea;
+class QPlainTextEdit;
+class QTabWidget;
+
+class MainWindow : public QMainWindow, public IVornHostApp, public IVornMainWindow {
+  Q_OBJECT
+
+ public:
+  MainWindow();
+
+  // IVornHostApp
+  IVornMainWindow* GetMainWnd() override { return this; }
+  void AddDocTemplate(IVornDocTemplate* docTemplate) override;
+  // IVornMainWindow
+  bool IsWindow() const override { return true; }
+  intptr_t SendMessage(uint32_t message, uintptr_t wparam, intptr_t lparam) override;
+
+  QMdiArea* documentArea() const { return area_; }
+  void appendLog(const QString& line);
+  // Binds a registered shortcut's key to the window that registered it.
+  void bindHotkey(QObject* view, int number, const QString& key);
+
+ private:
+  QMdiArea* area_;
+  QTabWidget* logTabs_;
+  QPlainTextEdit* log_;
+  std::vector<IVornDocTemplate*> templates_;
+};

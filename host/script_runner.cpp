@@ -1,0 +1,197 @@
+#include "host/script_runner.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QHeaderView>
+#include <QTableView>
+#include <QTimer>
+#include <QWidget>
+#include <iostream>
+
+#include "connectvorn/connectvorn.h"
+#include "host/dialog_robot.h"
+#include "host/host_state.h"
+#include "host/main_window.h"
+#include "host/rx_controls.h"
+#include "host/transcript.h"
+
+namespace {
+
+bool toInt(const std::string& text, int& out) {
+  try {
+    size_t used = 0;
+    out = std::stoi(text, &used);
+    return used == text.size();
+  } catch (...) {
+    return false;
+  }
+}
+
+std::string rowLine(const std::string& list, const char* tab, const QTableView& view, int row) {
+  std::string line = "row " + list + " " + tab;
+  const QHeaderView* header = view.horizontalHeader();
+  for (int visual = 0; visual < header->count(); ++visual) {
+    const int column = header->logicalIndex(visual);
+    line += ' ';
+    line += otpx::quote(view.model()->index(row, column).data().toString().toStdString());
+  }
+  return line;
+}
+
+}  // namespace
+
+ScriptRunner::ScriptRunner(MainWindow& window, LoadedPlugin& plugin, DialogRobot& robot,
+                           QString scriptDir, std::vector<HotkeyRegistration>& hotkeys)
+    : window_(window),
+      plugin_(plugin),
+      robot_(robot),
+      scriptDir_(std::move(scriptDir)),
+      hotkeys_(hotkeys) {}
+
+void ScriptRunner::settle() {
+  for (int pass = 0; pass < 20; ++pass) QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
+
+int ScriptRunner::run(const std::string& scriptName, const std::vector<std::string>& lines) {
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const auto words = splitScriptWords(lines[i]);
+    std::string error;
+    if (!words) {
+      error = "unterminated quote";
+    } else if (!words->empty()) {
+      error = execute(*words);
+    }
+    if (!error.empty()) {
+      std::cerr << scriptName << ":" << i + 1 << ": " << error << "\n";
+      return 2;
+    }
+    settle();
+  }
+  return 0;
+}
+
+std::string ScriptRunner::execute(const std::vector<std::string>& w) {
+  const std::string& verb = w[0];
+  const std::vector<std::string> args(w.begin() + 1, w.end());
+  if (verb == "host") return hostState().apply(args);
+  if (verb == "init") {
+    if (!args.empty()) return "init takes no arguments";
+    plugin_.init(&window_, hostState().user, hostState().loginKind, nullptr);
+    plugin_.running = true;
+    return {};
+  }
+  if (verb == "exit") {
+    if (!args.empty()) return "exit takes no arguments";
+    plugin_.exit();
+    plugin_.running = false;
+    return {};
+  }
+  if (verb == "reply" || verb == "update") return deliver(args, verb == "update");
+  if (verb == "select") return select(args);
+  if (verb == "command" || verb == "hotkey") {
+    int number = 0;
+    if (args.size() != 1 || !toInt(args[0], number)) return verb + " needs one number";
+    if (verb == "command") return invokeOnWatchView("runCommand", number);
+    for (const HotkeyRegistration& h : hotkeys_) {
+      if (h.number != number) continue;
+      QMetaObject::invokeMethod(h.view, "onHostHotkey", Q_ARG(int, number));
+      return {};
+    }
+    return {};  // a key nobody registered does nothing, as on a real keyboard
+  }
+  if (verb == "answer") {
+    if (args.size() != 1 || (args[0] != "yes" && args[0] != "no")) return "answer yes|no";
+    robot_.queueAnswer(args[0] == "yes");
+    return {};
+  }
+  if (verb == "file") {
+    if (args.size() != 1) return "file needs one path";
+    robot_.queueFile(QDir(scriptDir_).absoluteFilePath(QString::fromStdString(args[0])));
+    return {};
+  }
+  if (verb == "activate") {
+    if (args.size() != 1) return "activate needs one client id";
+    if (plugin_.clientActivation) plugin_.clientActivation(args[0], nullptr, nullptr);
+    return {};
+  }
+  if (verb == "wait") {
+    int ms = 0;
+    if (args.size() != 1 || !toInt(args[0], ms) || ms < 0) return "wait needs milliseconds";
+    QEventLoop loop;
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
+    return {};
+  }
+  if (verb == "dump") return dump(args);
+  if (verb == "set" || verb == "tick" || verb == "pick" || verb == "press")
+    return "no open screen has \"" + (args.empty() ? std::string() : args[0]) + "\"";
+  return "unknown verb \"" + verb + "\"";
+}
+
+std::string ScriptRunner::deliver(const std::vector<std::string>& w, bool liveUpdate) {
+  std::vector<std::pair<uint32_t, std::string>> fields;
+  for (const std::string& word : w) {
+    auto field = parseFieldWord(word);
+    if (!field) return "expected id=value, got \"" + word + "\"";
+    fields.push_back(std::move(*field));
+  }
+  std::vector<otpx::Field> views;
+  for (const auto& [id, value] : fields) views.push_back({id, value});
+  auto msg = otp_message::build(views);
+  IIrbeNotifier* notifier = rxControls().notifier();
+  if (!notifier || !msg) return {};
+  if (liveUpdate) {
+    notifier->OnLiveUpdate(msg.get());
+  } else {
+    notifier->OnResponse(msg.get());
+  }
+  return {};
+}
+
+QWidget* ScriptRunner::watchView() const {
+  for (QWidget* w : QApplication::allWidgets())
+    if (w->objectName() == "OFSWatchView") return w;
+  return nullptr;
+}
+
+std::string ScriptRunner::invokeOnWatchView(const char* method, int number) {
+  QWidget* view = watchView();
+  if (!view) return "the watch view is not open";
+  QMetaObject::invokeMethod(view, method, Q_ARG(int, number));
+  return {};
+}
+
+std::string ScriptRunner::select(const std::vector<std::string>& w) {
+  if (w.empty()) return "select needs a list";
+  const std::string& list = w[0];
+  if (list == "current" || list == "forthcoming" || list == "past") {
+    QWidget* view = watchView();
+    if (!view) return "the watch view is not open";
+    QStringList keys;
+    for (size_t i = 1; i < w.size(); ++i) keys << QString::fromStdString(w[i]);
+    bool ok = false;
+    QMetaObject::invokeMethod(view, "selectRows", Q_RETURN_ARG(bool, ok),
+                              Q_ARG(QString, QString::fromStdString(list)),
+                              Q_ARG(QStringList, keys));
+    return ok ? std::string() : "cannot select on " + list;
+  }
+  return "no open list \"" + list + "\"";
+}
+
+std::string ScriptRunner::dump(const std::vector<std::string>& w) {
+  if (w.size() != 1) return "dump needs one list";
+  if (w[0] == "watch") {
+    QWidget* view = watchView();
+    if (!view) return "the watch view is not open";
+    for (const char* tab : {"current", "forthcoming", "past"}) {
+      auto* table = view->findChild<QTableView*>(tab);
+      if (!table) continue;
+      for (int row = 0; row < table->model()->rowCount(); ++row)
+        transcript().line(rowLine("watch", tab, *table, row));
+    }
+    return {};
+  }
+  return "no open list \"" + w[0] + "\" to dump";
+}

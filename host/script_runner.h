@@ -1,0 +1,49 @@
+// Runs a terminal script against the loaded plug-in and writes the transcript.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <vector>
+
+#include "host/plugin_loader.h"
+#include "host/script_line.h"
+
+class MainWindow;
+class DialogRobot;
+class QObject;
+class QWidget;
+
+struct HotkeyRegistration {
+  QObject* view;
+  std::string caption;
+  int number;
+  std::string name;
+  std::string key;
+  std::string owner;
+};
+
+class ScriptRunner {
+ public:
+  ScriptRunner(MainWindow& window, LoadedPlugin& plugin, DialogRobot& robot, QString scriptDir,
+               std::vector<HotkeyRegistration>& hotkeys);
+
+  // 0 when the script ran to its end; 2 after a malformed line (reported on stderr).
+  int run(const std::string& scriptName, const std::vector<std::string>& lines);
+  // Lets queued work (answers, posted subscriptions) run until nothing is left.
+  static void settle();
+
+ private:
+  // Empty on success; otherwise what is wrong with the line.
+  std::string execute(const std::vector<std::string>& w);
+  std::string deliver(const std::vector<std::string>& w, bool liveUpdate);
+  std::string select(const std::vector<std::string>& w);
+  std::string dump(const std::vector<std::string>& w);
+  std::string invokeOnWatchView(const char* method, int number);
+  QWidget* watchView() const;
+
+  MainWindow& window_;
+  LoadedPlugin& plugin_;
+  DialogRobot& robot_;
+  QString scriptDir_;
+  std::vector<HotkeyRegistration>& hotkeys_;
+};

@@ -1,0 +1,29 @@
+#include "ui/list_memory.h"
+
+#include <QHeaderView>
+#include <QSettings>
+
+namespace {
+
+QString userSettingsFile;
+QString dialogPositionsFile;
+
+}  // namespace
+
+void setListRecoveryFiles(const QString& userSettings, const QString& dialogPositions) {
+  userSettingsFile = userSettings;
+  dialogPositionsFile = dialogPositions;
+}
+
+void restoreColumns(QHeaderView* header, const QString& listName) {
+  if (userSettingsFile.isEmpty()) return;
+  QSettings settings(userSettingsFile, QSettings::IniFormat);
+  const QByteArray state = settings.value(listName + "/ColumnState").toByteArray();
+  if (!state.isEmpty()) header->restoreState(state);
+}
+
+void saveColumns(const QHeaderView* header, const QString& listName) {
+  if (userSettingsFile.isEmpty()) return;
+  QSettings settings(userSettingsFile, QSettings::IniFormat);
+  settings.setValue(listName + "/ColumnState", header->saveState());
+}

@@ -1,0 +1,13 @@
+// Column order and widths of the plug-in's lists, remembered per list name in the user-settings
+// recovery file handed over at start-up.
+#pragma once
+
+#include <QString>
+
+class QHeaderView;
+
+void setListRecoveryFiles(const QString& userSettings, const QString& dialogPositions);
+// Restores the header's remembered column order and widths.
+void restoreColumns(QHeaderView* header, const QString& listName);
+// Remembers them; the list's owner calls it when the list closes.
+void saveColumns(const QHeaderView* header, const QString& listName);

@@ -1,0 +1,55 @@
+#include "ui/qt_prompt.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QWidget>
+
+QWidget* QtPrompt::parentWindow() const {
+  if (QWidget* active = QApplication::activeModalWidget()) return active;
+  return QApplication::activeWindow();
+}
+
+void QtPrompt::message(const std::string& text) {
+  QMessageBox box(QMessageBox::NoIcon, QString(), QString::fromStdString(text), QMessageBox::Ok,
+                  parentWindow());
+  box.exec();
+}
+
+bool QtPrompt::question(const std::string& text) {
+  QMessageBox box(QMessageBox::Question, QString(), QString::fromStdString(text),
+                  QMessageBox::Yes | QMessageBox::No, parentWindow());
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes;
+}
+
+std::string QtPrompt::chooseFile(bool saving, const std::string& suggestedName,
+                                 const std::string& filter) {
+  QFileDialog dialog(parentWindow(), QString(), QString(), QString::fromStdString(filter));
+  // Qt's own dialog: the same on every desktop, and scriptable by the reference terminal.
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (!suggestedName.empty()) dialog.selectFile(QString::fromStdString(suggestedName));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().front().toStdString();
+}
+
+void QtPrompt::focus(const std::string& field) {
+  QWidget* window = QApplication::activeWindow();
+  if (!window) return;
+  const QString label = QString::fromStdString(field);
+  for (QLabel* l : window->findChildren<QLabel*>()) {
+    if (l->text() == label && l->buddy()) {
+      l->buddy()->setFocus();
+      return;
+    }
+  }
+  for (QWidget* w : window->findChildren<QWidget*>()) {
+    if (w->accessibleName() == label) {
+      w->setFocus();
+      return;
+    }
+  }
+}

@@ -1,0 +1,191 @@
+#include "ui/watch_view_widget.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QMenu>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "issues/watch_columns.h"
+#include "plugin/control_block.h"
+#include "plugin/settings_paths.h"
+#include "ui/issue_list_model.h"
+#include "ui/list_memory.h"
+
+namespace {
+
+constexpr std::array<const char*, 3> kTabKeys{"current", "forthcoming", "past"};
+
+void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, WatchViewWidget* view) {
+  for (const MenuEntry& entry : entries) {
+    if (entry.isSeparator()) {
+      menu.addSeparator();
+    } else if (!entry.items.empty()) {
+      fillMenu(*menu.addMenu(QString::fromStdString(entry.text)), entry.items, view);
+    } else {
+      const int command = entry.command;
+      menu.addAction(QString::fromStdString(entry.text), view,
+                     [view, command] { view->runCommand(command); });
+    }
+  }
+}
+
+}  // namespace
+
+WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
+    : QWidget(parent), block_(block), core_(std::make_unique<CWatchView>(block)) {
+  setObjectName("OFSWatchView");
+  tabs_ = new QTabWidget(this);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(tabs_);
+
+  for (size_t i = 0; i < 3; ++i) {
+    const auto tab = static_cast<WatchTab>(i);
+    auto* list = new QTableView(tabs_);
+    list->setObjectName(kTabKeys[i]);
+    list->setAccessibleName(CWatchView::kListTitles[i]);
+    models_[i] = new IssueListModel(*core_, tab, list);
+    list->setModel(models_[i]);
+    list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->verticalHeader()->hide();
+    list->setContextMenuPolicy(Qt::CustomContextMenu);
+    for (int c = 0; c < kWatchColumnCount; ++c)
+      list->setColumnWidth(c, watchColumns()[static_cast<size_t>(c)].width);
+    list->horizontalHeader()->setSectionsMovable(true);
+    restoreColumns(list->horizontalHeader(), CWatchView::kListSettingsNames[i]);
+    // Right clicks on the header never reach this signal, so the header shows no menu.
+    connect(list, &QWidget::customContextMenuRequested, this, [this, tab, list](const QPoint& at) {
+      showContextMenu(tab, list->viewport()->mapToGlobal(at));
+    });
+    connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this, tab] { syncSelection(tab); });
+    tabs_->addTab(list, CWatchView::kTabTitles[i]);
+    lists_[i] = list;
+  }
+  connect(tabs_, &QTabWidget::currentChanged, this,
+          [this](int index) { core_->setActiveTab(static_cast<WatchTab>(index)); });
+  core_->setChangeListener([this](WatchTab tab, int row) {
+    models_[static_cast<size_t>(tab)]->coreChanged(row);
+    if (row == 0) lists_[static_cast<size_t>(tab)]->scrollToTop();
+  });
+  core_->setLauncher(this);
+}
+
+WatchViewWidget::~WatchViewWidget() {
+  writePlacement();
+  for (size_t i = 0; i < 3; ++i)
+    saveColumns(lists_[i]->horizontalHeader(), CWatchView::kListSettingsNames[i]);
+  core_->setChangeListener(nullptr);
+}
+
+void WatchViewWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (shownOnce_) return;
+  shownOnce_ = true;
+  setWindowTitle(CWatchView::kListTitles[0]);
+  core_->registerHotkeys(this);
+}
+
+void WatchViewWidget::showContextMenu(WatchTab tab, const QPoint& at) {
+  const std::vector<MenuEntry> entries = core_->contextMenu(tab);
+  if (entries.empty()) return;
+  QMenu menu(this);
+  fillMenu(menu, entries, this);
+  menu.exec(at);
+}
+
+void WatchViewWidget::syncSelection(WatchTab tab) {
+  QTableView* list = lists_[static_cast<size_t>(tab)];
+  std::vector<int> rows;
+  for (const QModelIndex& index : list->selectionModel()->selectedRows())
+    rows.push_back(index.row());
+  core_->setSelection(tab, std::move(rows));
+}
+
+bool WatchViewWidget::selectRows(const QString& tabKey, const QStringList& keys) {
+  for (size_t i = 0; i < 3; ++i) {
+    if (tabKey != kTabKeys[i]) continue;
+    QTableView* list = lists_[i];
+    tabs_->setCurrentIndex(static_cast<int>(i));
+    list->clearSelection();
+    std::vector<int> rows;
+    const auto& issues = core_->rows(static_cast<WatchTab>(i));
+    for (const QString& key : keys) {
+      for (size_t r = 0; r < issues.size(); ++r) {
+        if (QString::fromStdString(issues[r]->issueId) != key) continue;
+        list->selectionModel()->select(models_[i]->index(static_cast<int>(r), 0),
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        rows.push_back(static_cast<int>(r));
+        break;
+      }
+    }
+    // Keep the order the keys were given in: the first one is "the" selected issue.
+    core_->setSelection(static_cast<WatchTab>(i), std::move(rows));
+    core_->setActiveTab(static_cast<WatchTab>(i));
+    return true;
+  }
+  return false;
+}
+
+void WatchViewWidget::onHostHotkey(int number) {
+  core_->runHotkey(number);
+}
+
+void WatchViewWidget::runCommand(int command) {
+  core_->runCommand(command);
+}
+
+void WatchViewWidget::writePlacement() const {
+  const QStringList arguments = QCoreApplication::arguments();
+  if (arguments.isEmpty()) return;
+  const QWidget* frame = window();
+  if (!frame) return;
+  const QRect normal =
+      frame->normalGeometry().isValid() ? frame->normalGeometry() : frame->geometry();
+  WindowPlacement p;
+  p.top = normal.top();
+  p.left = normal.left();
+  p.bottom = normal.bottom() + 1;
+  p.right = normal.right() + 1;
+  p.showState = frame->isMaximized() ? 3 : frame->isMinimized() ? 2 : 1;
+  QSettings file(QString::fromStdString(watchPlacementPath(arguments.front().toStdString())),
+                 QSettings::IniFormat);
+  file.setValue(QString(kPlacementSection) + "/" + kPlacementKey,
+                QString::fromStdString(formatPlacement(p)));
+}
+
+// Screens that arrive with later work answer false until they are wired here.
+bool WatchViewWidget::openOrderEntry(sOFSCol&) {
+  return false;
+}
+bool WatchViewWidget::openOrderBook() {
+  return false;
+}
+bool WatchViewWidget::openBasket() {
+  return false;
+}
+bool WatchViewWidget::openScripProperties(sOFSCol&) {
+  return false;
+}
+bool WatchViewWidget::openMarketDepth(sOFSCol&) {
+  return false;
+}
+bool WatchViewWidget::openIssueDetails(sOFSCol*) {
+  return false;
+}
+bool WatchViewWidget::openIssueUpload() {
+  return false;
+}
+bool WatchViewWidget::openIssueExport() {
+  return false;
+}
+bool WatchViewWidget::openAllotmentUpload(const std::string&) {
+  return false;
+}
+bool WatchViewWidget::deleteInOrderBook() {
+  return false;
+}
