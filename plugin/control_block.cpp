@@ -1,5 +1,10 @@
 #include "plugin/control_block.h"
 
+#include "issues/watch_view.h"
+#include "messaging/query_requests.h"
+#include "messaging/response_dispatcher.h"
+#include "plugin/plugin_identity.h"
+
 COFSControlBlock::COFSControlBlock(const SymbolLookup& module, PluginPlatform& host)
     : hostModule(&module),
       services(bindHostServices(module)),
@@ -14,9 +19,48 @@ COFSControlBlock::~COFSControlBlock() {
   if (scratch) otp_close_scratch(&scratch, &err, 0);
 }
 
-void COFSControlBlock::OnLiveUpdate(otp_msg_t) {}
+void COFSControlBlock::OnLiveUpdate(otp_msg_t msg) {
+  dispatchLiveUpdate(*this, msg);
+}
 
-void COFSControlBlock::OnResponse(otp_msg_t) {}
+void COFSControlBlock::OnResponse(otp_msg_t msg) {
+  dispatchResponse(*this, msg);
+}
+
+bool COFSControlBlock::hasAddIssueRight() {
+  return hasRight(kAddIssueRight);
+}
+
+void COFSControlBlock::issueAdded(sOFSCol& issue) {
+  if (watchView) watchView->addIssue(&issue);
+}
+
+void COFSControlBlock::assetFirstShown(const std::string& exchange, const std::string& symbol) {
+  if (watchView) watchView->assetShown(exchange, symbol);
+}
+
+void COFSControlBlock::refreshWatchView() {
+  if (watchView) watchView->refresh();
+}
+
+void COFSControlBlock::historyRowAdded(std::unique_ptr<sOFSOrderInfo> row) {
+  if (listener) listener->historyRowAdded(std::move(row));
+}
+
+void COFSControlBlock::historyReplyEnded() {
+  if (listener) listener->historyReplyEnded();
+}
+
+void COFSControlBlock::marketDepthChanged() {
+  if (listener) listener->marketDepthChanged();
+}
+
+void COFSControlBlock::handInstrumentToHost(const std::string& exchange,
+                                            const std::string& symbol) {
+  // Later updates of the instrument keep arriving through one price-feed subscription.
+  if (pricedInstruments_.insert(exchange + "|" + symbol).second)
+    subscribeMarketPrice(layer, exchange, symbol);
+}
 
 bool COFSControlBlock::hasRight(const std::string& rightName) const {
   return services.isActionRightEnabled && services.isActionRightEnabled(rightName) != 0;

@@ -4,9 +4,14 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 
+#include "domain/record_maps.h"
+#include "messaging/dispatch_context.h"
+#include "messaging/market_depth_state.h"
 #include "messaging/message_layer.h"
+#include "orderbook/order_book_lists.h"
 #include "plugin/host_service_table.h"
 #include "plugin/plugin_platform.h"
 #include "sdk/host_app.h"
@@ -14,7 +19,20 @@
 
 class CWatchView;
 
-class COFSControlBlock final : public IIrbeNotifier {
+// Views that follow what the dispatcher learns; each may be absent.
+class DispatchListener {
+ public:
+  virtual void historyRowAdded(std::unique_ptr<sOFSOrderInfo>) {}
+  virtual void historyReplyEnded() {}
+  virtual void marketDepthChanged() {}
+  // Resets and closes the issue dialog; true when it was adding an issue.
+  virtual bool endIssueDialog() { return true; }
+
+ protected:
+  ~DispatchListener() = default;
+};
+
+class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
  public:
   // Binds the host's services from `hostModule`.
   COFSControlBlock(const SymbolLookup& hostModule, PluginPlatform& platform);
@@ -41,6 +59,11 @@ class COFSControlBlock final : public IIrbeNotifier {
   MessageLayer layer;
   PluginPlatform& platform;
   CWatchView* watchView = nullptr;  // set while the watch view lives
+  OFSRecords recordMaps;
+  OrderBookLists bookLists;
+  // Present while the Market Depth window is open.
+  std::unique_ptr<MarketDepthState> marketDepthState;
+  DispatchListener* listener = nullptr;
 
   void OnLiveUpdate(otp_msg_t msg) override;
   void OnResponse(otp_msg_t msg) override;
@@ -50,6 +73,29 @@ class COFSControlBlock final : public IIrbeNotifier {
   void log(const std::string& line) const;
   void hostMessageBox(const std::string& text) const;
   const std::string& userId() const { return identities[0]; }
+
+ private:
+  // DispatchContext
+  const OtpOps& otp() override { return layer.ops(); }
+  OFSRecords& records() override { return recordMaps; }
+  OrderBookLists& orderBook() override { return bookLists; }
+  MessageLayer& messageLayer() override { return layer; }
+  void tabbedLog(const std::string& line) override { log(line); }
+  void messageBox(const std::string& text) override { platform.prompt().message(text); }
+  bool hasAddIssueRight() override;
+  std::string defaultPCode() override { return identities[1]; }
+  void storePeerData(const std::string& text) override { peerDataText = text; }
+  void issueAdded(sOFSCol& issue) override;
+  void assetFirstShown(const std::string& exchange, const std::string& symbol) override;
+  void refreshWatchView() override;
+  bool endIssueDialog() override { return listener ? listener->endIssueDialog() : true; }
+  void historyRowAdded(std::unique_ptr<sOFSOrderInfo> row) override;
+  void historyReplyEnded() override;
+  MarketDepthState* marketDepth() override { return marketDepthState.get(); }
+  void marketDepthChanged() override;
+  void handInstrumentToHost(const std::string& exchange, const std::string& symbol) override;
+
+  std::set<std::string> pricedInstruments_;
 };
 
 // The process-wide pointer: null before initialisation and after shutdown.

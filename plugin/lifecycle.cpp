@@ -128,6 +128,9 @@ void exitPlugin(PluginPlatform& platform) {
   COFSControlBlock* block = controlBlock();
   if (!block) return;
   platform.destroyDialogWindows();
+  block->bookLists.open.clear();
+  block->bookLists.closed.clear();
+  block->recordMaps.clear();
   if (platform.frameExists()) platform.saveLayoutAndCloseFrame();
   setControlBlock(nullptr);
   delete block;
