@@ -3,6 +3,7 @@
 // numeric copies named as such. Members known only by their answer field are named fieldNNNNN.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -116,4 +117,8 @@ struct sOFSOrderInfo {
   int32_t issueTickSize = 0;
   int32_t issueMinQuantity = 0;
   int32_t issueLotSize = 0;
+
+  // Kept by the order book's lists (open, closed): where each last put this order. Lets a
+  // live update find the order's line without a search.
+  std::array<uint32_t, 2> bookSlot{UINT32_MAX, UINT32_MAX};
 };

@@ -8,15 +8,23 @@ constexpr size_t kMinCapacity = 64;
 
 }  // namespace
 
+// A record's slot number may be stale (it left the list, or the list was reset): it counts
+// only while that slot still holds the record.
+std::optional<size_t> BookList::slotOf(const sOFSOrderInfo* order) const {
+  size_t slot = order->bookSlot[which_];
+  if (slot >= slots_.size() || slots_[slot] != order) return std::nullopt;
+  return slot;
+}
+
 sOFSOrderInfo* BookList::rowAt(size_t row) const {
   if (row >= count_) return nullptr;
   return slots_[live_.kth(count_ - row)];
 }
 
 std::optional<size_t> BookList::rowOf(const sOFSOrderInfo* order) const {
-  auto it = slotOf_.find(order);
-  if (it == slotOf_.end()) return std::nullopt;
-  return count_ - live_.countThrough(it->second);
+  std::optional<size_t> slot = slotOf(order);
+  if (!slot) return std::nullopt;
+  return count_ - live_.countThrough(*slot);
 }
 
 void BookList::insertTop(sOFSOrderInfo* order) {
@@ -25,20 +33,18 @@ void BookList::insertTop(sOFSOrderInfo* order) {
   if (slots_.size() == live_.capacity()) makeRoom();
   size_t slot = slots_.size();
   slots_.push_back(order);
-  slotOf_.emplace(order, slot);
+  place(order, slot);
   live_.set(slot);
   ++count_;
   if (listener_) listener_->afterInsert();
 }
 
 void BookList::remove(const sOFSOrderInfo* order) {
-  auto it = slotOf_.find(order);
-  if (it == slotOf_.end()) return;
-  size_t slot = it->second;
-  if (listener_) listener_->beforeRemove(count_ - live_.countThrough(slot));
-  slots_[slot] = nullptr;
-  live_.unset(slot);
-  slotOf_.erase(it);
+  std::optional<size_t> slot = slotOf(order);
+  if (!slot) return;
+  if (listener_) listener_->beforeRemove(count_ - live_.countThrough(*slot));
+  slots_[*slot] = nullptr;
+  live_.unset(*slot);
   --count_;
   if (listener_) listener_->afterRemove();
 }
@@ -61,16 +67,14 @@ void BookList::reset(const std::vector<sOFSOrderInfo*>& insertionOrder) {
 void BookList::makeRoom() {
   size_t capacity = std::max(kMinCapacity, 2 * count_ + 1);
   if (slots_.size() - count_ >= count_ / 2) return compact(capacity);
-  slots_.reserve(capacity);
   live_.reset(capacity, slots_.size(), [this](size_t slot) { return slots_[slot] != nullptr; });
+  slots_.reserve(live_.capacity());
 }
 
 // Every slot moves, no row does.
 void BookList::compact(size_t capacity) {
   std::erase(slots_, nullptr);
-  slots_.reserve(capacity);
-  slotOf_.clear();
-  slotOf_.reserve(slots_.size());
-  for (size_t slot = 0; slot < slots_.size(); ++slot) slotOf_.emplace(slots_[slot], slot);
+  for (size_t slot = 0; slot < slots_.size(); ++slot) place(slots_[slot], slot);
   live_.reset(capacity, slots_.size(), [](size_t) { return true; });
+  slots_.reserve(live_.capacity());
 }

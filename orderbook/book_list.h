@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 #include "domain/records.h"
@@ -29,13 +28,15 @@ class BookListListener {
 
 class BookList {
  public:
+  // `which` picks the record's bookSlot entry this list keeps: each list of a book its own.
+  explicit BookList(size_t which) : which_(which) {}
   void setListener(BookListListener* listener) { listener_ = listener; }
 
   size_t rowCount() const { return count_; }
   // The order on line `row` (0 is the top); null past the end.
   sOFSOrderInfo* rowAt(size_t row) const;
   std::optional<size_t> rowOf(const sOFSOrderInfo* order) const;
-  bool contains(const sOFSOrderInfo* order) const { return slotOf_.contains(order); }
+  bool contains(const sOFSOrderInfo* order) const { return slotOf(order).has_value(); }
 
   // Puts a record that is not yet listed on a new top line.
   void insertTop(sOFSOrderInfo* order);
@@ -48,11 +49,15 @@ class BookList {
   void clear() { reset({}); }
 
  private:
+  std::optional<size_t> slotOf(const sOFSOrderInfo* order) const;
   void makeRoom();
   void compact(size_t capacity);
+  void place(sOFSOrderInfo* order, size_t slot) {
+    order->bookSlot[which_] = static_cast<uint32_t>(slot);
+  }
 
   std::vector<sOFSOrderInfo*> slots_;  // in insertion order; null where a line was deleted
-  std::unordered_map<const sOFSOrderInfo*, size_t> slotOf_;
+  size_t which_;
   LiveSlots live_;
   size_t count_ = 0;
   BookListListener* listener_ = nullptr;

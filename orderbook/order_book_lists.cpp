@@ -1,6 +1,7 @@
 #include "orderbook/order_book_lists.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "domain/order_fill.h"
 
@@ -20,6 +21,41 @@ void moveKnownOrder(sOFSOrderInfo& order, OrderBookLists& book) {
   else
     book.closed.insertTop(&order);
   book.open.remove(&order);
+}
+
+// An order with the first 16 bytes of its number, zero-padded and big-endian, so that most
+// comparisons of the sort touch neither the record nor the string.
+struct SortEntry {
+  uint64_t high;
+  uint64_t low;
+  sOFSOrderInfo* order;
+};
+
+uint64_t bigEndianWord(const std::string& text, size_t from) {
+  unsigned char bytes[8] = {};
+  if (from < text.size())
+    std::memcpy(bytes, text.data() + from, std::min<size_t>(8, text.size() - from));
+  uint64_t word = 0;
+  for (unsigned char byte : bytes) word = word << 8 | byte;
+  return word;
+}
+
+// Byte-wise order of the order numbers: the padded prefixes decide unless they are equal.
+bool numberedBefore(const SortEntry& a, const SortEntry& b) {
+  if (a.high != b.high) return a.high < b.high;
+  if (a.low != b.low) return a.low < b.low;
+  return a.order->ofsOrderNo < b.order->ofsOrderNo;
+}
+
+std::vector<SortEntry> sortedByNumber(const RecordMap<sOFSOrderInfo>& orders) {
+  std::vector<SortEntry> entries;
+  entries.reserve(orders.size());
+  for (const auto& [number, order] : orders) {
+    const std::string& key = order->ofsOrderNo;
+    entries.push_back({bigEndianWord(key, 0), bigEndianWord(key, 8), order.get()});
+  }
+  std::sort(entries.begin(), entries.end(), numberedBefore);
+  return entries;
 }
 
 }  // namespace
@@ -45,15 +81,10 @@ void applyOrderUpdate(RecordMap<sOFSOrderInfo>& orders, OrderBookLists& book,
 }
 
 void rebuildOrderBook(const RecordMap<sOFSOrderInfo>& orders, OrderBookLists& book) {
-  std::vector<sOFSOrderInfo*> all;
-  all.reserve(orders.size());
-  for (const auto& entry : orders) all.push_back(entry.second.get());
-  std::sort(all.begin(), all.end(), [](const sOFSOrderInfo* a, const sOFSOrderInfo* b) {
-    return a->ofsOrderNo < b->ofsOrderNo;
-  });
   std::vector<sOFSOrderInfo*> open;
   std::vector<sOFSOrderInfo*> closed;
-  for (sOFSOrderInfo* order : all) (isOpenStatus(order->status) ? open : closed).push_back(order);
+  for (const SortEntry& entry : sortedByNumber(orders))
+    (isOpenStatus(entry.order->status) ? open : closed).push_back(entry.order);
   book.open.reset(open);
   book.closed.reset(closed);
 }

@@ -8,8 +8,8 @@
 #include "orderbook/book_list.h"
 
 struct OrderBookLists {
-  BookList open;    // "Open Orders"
-  BookList closed;  // "Completed Orders"
+  BookList open{0};    // "Open Orders"
+  BookList closed{1};  // "Completed Orders"
 };
 
 // "open" and "open pending", compared exactly.

@@ -20,7 +20,7 @@ struct RecordingListener : BookListListener {
 // compactions of the slots.
 TEST(BookList, AgreesWithAPlainListUnderRandomEdits) {
   std::vector<sOFSOrderInfo> orders(3000);
-  BookList list;
+  BookList list{0};
   std::deque<sOFSOrderInfo*> model;
   std::mt19937 random(7);
   for (int step = 0; step < 20000; ++step) {
@@ -45,7 +45,7 @@ TEST(BookList, AgreesWithAPlainListUnderRandomEdits) {
 
 TEST(BookList, TellsTheListenerWhichRowChanges) {
   std::vector<sOFSOrderInfo> orders(3);
-  BookList list;
+  BookList list{0};
   RecordingListener listener;
   list.setListener(&listener);
   list.reset({&orders[0], &orders[1]});  // orders[1] on top
