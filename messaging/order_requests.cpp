@@ -109,14 +109,15 @@ std::string_view bsePCodeOf(const sOFSOrderInfo& order) {
   return order.exchange == "bse_ipo" ? std::string_view(order.pCode) : std::string_view();
 }
 
-struct WalkinModify {
-  const std::string* pCode = nullptr;  // null: the ofs request
+struct ModifyOptions {
+  const std::string* walkinPCode = nullptr;  // null: the ofs request
+  bool* sent = nullptr;
 };
 
 int32_t modify(const OrderContext& c, const sOFSOrderInfo& o, const std::string& price,
-               const std::string& quantity, WalkinModify walkin) {
-  const bool isWalkin = walkin.pCode != nullptr;
-  const std::string& pCode = isWalkin ? *walkin.pCode : o.pCode;
+               const std::string& quantity, ModifyOptions options) {
+  const bool isWalkin = options.walkinPCode != nullptr;
+  const std::string& pCode = isWalkin ? *options.walkinPCode : o.pCode;
   const std::string paise = paiseText(price);
   const std::optional<std::string> uuid = freshUuid(c);
   Request r(isWalkin ? "om_modify_order_walkin" : "om_modify_order_ofs", kModifyPrefix,
@@ -133,7 +134,8 @@ int32_t modify(const OrderContext& c, const sOFSOrderInfo& o, const std::string&
   r.add(54056, o.cfStatus).addIf(!margin.empty(), 64170, margin);
   addUuid(r.addIf(!pCode.empty(), 10332, pCode), uuid);
   r.addIf(!isWalkin && !bsePCodeOf(o).empty(), 13034, bsePCodeOf(o));
-  c.layer.sendOrder(r);
+  const bool sent = c.layer.sendOrder(r) == 0;
+  if (options.sent) *options.sent = sent;
   return 1;
 }
 
@@ -178,14 +180,14 @@ int32_t cancelWalkinOrderBulk(const OrderContext& context, const sOFSPlaceOrder&
 }
 
 int32_t modifyOfsOrder(const OrderContext& context, const sOFSOrderInfo& order,
-                       const std::string& price, const std::string& quantity) {
-  return modify(context, order, price, quantity, {});
+                       const std::string& price, const std::string& quantity, bool* sent) {
+  return modify(context, order, price, quantity, {nullptr, sent});
 }
 
 int32_t modifyWalkinOrder(const OrderContext& context, const sOFSOrderInfo& order,
                           const std::string& price, const std::string& quantity,
-                          const std::string& pCode) {
-  return modify(context, order, price, quantity, {&pCode});
+                          const std::string& pCode, bool* sent) {
+  return modify(context, order, price, quantity, {&pCode, sent});
 }
 
 int32_t modifyOfsOrderBulk(const OrderContext& context, const sOFSOrderInfo& order,
@@ -195,5 +197,5 @@ int32_t modifyOfsOrderBulk(const OrderContext& context, const sOFSOrderInfo& ord
 
 int32_t modifyWalkinOrderBulk(const OrderContext& context, const sOFSOrderInfo& order,
                               const sOFSPlaceOrder& row) {
-  return modify(context, order, row.price, row.quantity, {&row.pCode});
+  return modify(context, order, row.price, row.quantity, {&row.pCode, nullptr});
 }

@@ -35,12 +35,13 @@ int32_t cancelWalkinOrder(const OrderContext& context, const sOFSOrderInfo& orde
 int32_t cancelOfsOrderBulk(const OrderContext& context, const sOFSPlaceOrder& row);
 int32_t cancelWalkinOrderBulk(const OrderContext& context, const sOFSPlaceOrder& row);
 
-// `price` in rupees; `pCode` replaces the order's participant code of a walk-in order.
+// `price` in rupees; `pCode` replaces the order's participant code of a walk-in order. The
+// result is 1 either way; `sent`, when given, tells the screen whether to reset.
 int32_t modifyOfsOrder(const OrderContext& context, const sOFSOrderInfo& order,
-                       const std::string& price, const std::string& quantity);
+                       const std::string& price, const std::string& quantity, bool* sent = nullptr);
 int32_t modifyWalkinOrder(const OrderContext& context, const sOFSOrderInfo& order,
                           const std::string& price, const std::string& quantity,
-                          const std::string& pCode);
+                          const std::string& pCode, bool* sent = nullptr);
 // A bulk row gives the new price and quantity (and, for a walk-in order, the PCode).
 int32_t modifyOfsOrderBulk(const OrderContext& context, const sOFSOrderInfo& order,
                            const sOFSPlaceOrder& row);
