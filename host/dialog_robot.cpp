@@ -1,5 +1,6 @@
 #include "host/dialog_robot.h"
 
+#include <QDynamicPropertyChangeEvent>
 #include <QEvent>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -8,8 +9,36 @@
 #include "connectvorn/connectvorn.h"
 #include "host/transcript.h"
 
+namespace {
+
+// A screen's heading is its "heading" property when it has one, else its window title.
+std::string headingOf(const QWidget& screen) {
+  const QVariant heading = screen.property("heading");
+  return (heading.isValid() ? heading.toString() : screen.windowTitle()).toStdString();
+}
+
+bool isScreen(QObject* watched) {
+  auto* dialog = qobject_cast<QDialog*>(watched);
+  return dialog && !qobject_cast<QMessageBox*>(dialog) && !qobject_cast<QFileDialog*>(dialog);
+}
+
+}  // namespace
+
 bool DialogRobot::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::DynamicPropertyChange && isScreen(watched)) {
+    auto* change = static_cast<QDynamicPropertyChangeEvent*>(event);
+    auto* screen = static_cast<QWidget*>(watched);
+    if (change->propertyName() == "heading" && screen->isVisible())
+      transcript().line("screen " + otpx::quote(headingOf(*screen)));
+    return false;
+  }
   if (event->type() != QEvent::Show) return false;
+  if (isScreen(watched)) {
+    auto* screen = static_cast<QWidget*>(watched);
+    transcript().line("screen " + otpx::quote(headingOf(*screen)));
+    screens_.push_back(screen);
+    return false;
+  }
   if (auto* box = qobject_cast<QMessageBox*>(watched)) {
     const std::string text = box->text().toStdString();
     if (box->standardButtons() & QMessageBox::Yes) {
@@ -40,4 +69,10 @@ bool DialogRobot::eventFilter(QObject* watched, QEvent* event) {
     });
   }
   return false;
+}
+
+QWidget* DialogRobot::activeScreen() {
+  while (!screens_.empty() && (!screens_.back() || !screens_.back()->isVisible()))
+    screens_.pop_back();
+  return screens_.empty() ? nullptr : screens_.back().data();
 }

@@ -5,13 +5,19 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 #include <deque>
+#include <vector>
 
 class DialogRobot : public QObject {
  public:
   void queueAnswer(bool yes) { answers_.push_back(yes); }
   void queueFile(const QString& path) { files_.push_back(path); }
+  // The screen shown last that is still visible: the one `set`, `tick`, `pick` and `press`
+  // reach. Null when none is.
+  QWidget* activeScreen();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -19,4 +25,5 @@ class DialogRobot : public QObject {
  private:
   std::deque<bool> answers_;
   std::deque<QString> files_;
+  std::vector<QPointer<QWidget>> screens_;
 };

@@ -5,9 +5,11 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableView>
 #include <QTimer>
 #include <QWidget>
+#include <algorithm>
 #include <iostream>
 
 #include "connectvorn/connectvorn.h"
@@ -15,6 +17,7 @@
 #include "host/host_state.h"
 #include "host/main_window.h"
 #include "host/rx_controls.h"
+#include "host/screen_driver.h"
 #include "host/transcript.h"
 
 namespace {
@@ -126,8 +129,21 @@ std::string ScriptRunner::execute(const std::vector<std::string>& w) {
   }
   if (verb == "dump") return dump(args);
   if (verb == "set" || verb == "tick" || verb == "pick" || verb == "press")
-    return "no open screen has \"" + (args.empty() ? std::string() : args[0]) + "\"";
+    return drive(verb, args);
   return "unknown verb \"" + verb + "\"";
+}
+
+std::string ScriptRunner::drive(const std::string& verb, const std::vector<std::string>& w) {
+  const size_t wanted = verb == "press" ? 1 : 2;
+  if (w.size() != wanted)
+    return verb + (wanted == 1 ? " needs one text" : " needs a label and a value");
+  QWidget* screen = robot_.activeScreen();
+  if (!screen) return "no screen is open";
+  if (verb == "set") return setField(*screen, w[0], w[1]);
+  if (verb == "pick") return pickChoice(*screen, w[0], w[1]);
+  if (verb == "press") return pressButton(*screen, w[0]);
+  if (w[1] != "on" && w[1] != "off") return "tick LABEL on|off";
+  return tickBox(*screen, w[0], w[1] == "on");
 }
 
 std::string ScriptRunner::deliver(const std::vector<std::string>& w, bool liveUpdate) {
@@ -181,16 +197,33 @@ std::string ScriptRunner::select(const std::vector<std::string>& w) {
 
 std::string ScriptRunner::dump(const std::vector<std::string>& w) {
   if (w.size() != 1) return "dump needs one list";
-  if (w[0] == "watch") {
-    QWidget* view = watchView();
-    if (!view) return {};
-    for (const char* tab : {"current", "forthcoming", "past"}) {
-      auto* table = view->findChild<QTableView*>(tab);
+  static const std::vector<std::string> kLists = {"watch",  "order-book", "history",
+                                                  "basket", "bulk",       "modify-price"};
+  if (std::find(kLists.begin(), kLists.end(), w[0]) == kLists.end())
+    return "no list \"" + w[0] + "\" to dump";
+  // A screen names its lists for scripts with the property "dumpName" and its tables, in the
+  // order they are printed, with "dumpLists" (their object names: "current", "open", ...).
+  // A list that is not open prints nothing.
+  for (QWidget* screen : QApplication::allWidgets()) {
+    if (screen->property("dumpName").toString().toStdString() != w[0]) continue;
+    for (const QString& name : screen->property("dumpLists").toStringList()) {
+      auto* table = screen->findChild<QTableView*>(name);
       if (!table) continue;
       for (int row = 0; row < table->model()->rowCount(); ++row)
-        transcript().line(rowLine("watch", tab, *table, row));
+        transcript().line(rowLine(w[0], name.toStdString().c_str(), *table, row));
     }
+    if (w[0] == "history") dumpDetails(*screen);
     return {};
   }
-  return "no open list \"" + w[0] + "\" to dump";
+  return {};
+}
+
+void ScriptRunner::dumpDetails(QWidget& screen) {
+  // A details block is a form of label/value pairs; the value is the label's buddy.
+  for (QLabel* label : screen.findChildren<QLabel*>()) {
+    auto* value = qobject_cast<QLabel*>(label->buddy());
+    if (!value) continue;
+    transcript().line("detail " + otpx::quote(label->text().toStdString()) + " " +
+                      otpx::quote(value->text().toStdString()));
+  }
 }

@@ -38,6 +38,8 @@ class ScriptRunner {
   std::string deliver(const std::vector<std::string>& w, bool liveUpdate);
   std::string select(const std::vector<std::string>& w);
   std::string dump(const std::vector<std::string>& w);
+  void dumpDetails(QWidget& screen);
+  std::string drive(const std::string& verb, const std::vector<std::string>& w);
   std::string invokeOnWatchView(const char* method, int number);
   QWidget* watchView() const;
 

@@ -44,20 +44,24 @@ void COFSControlBlock::refreshWatchView() {
 }
 
 void COFSControlBlock::historyRowAdded(std::unique_ptr<sOFSOrderInfo> row) {
-  if (listener) listener->historyRowAdded(std::move(row));
+  if (onHistoryRow) onHistoryRow(std::move(row));
 }
 
 void COFSControlBlock::historyReplyEnded() {
-  if (listener) listener->historyReplyEnded();
+  if (onHistoryEnd) onHistoryEnd();
 }
 
 void COFSControlBlock::marketDepthChanged() {
-  if (listener) listener->marketDepthChanged();
+  if (onMarketDepthChanged) onMarketDepthChanged();
 }
 
 void COFSControlBlock::handInstrumentToHost(const std::string& exchange,
                                             const std::string& symbol) {
-  // Later updates of the instrument keep arriving through one price-feed subscription.
+  // Later updates of the instrument keep arriving through its price-feed subscription.
+  ensurePriceFeed(exchange, symbol);
+}
+
+void COFSControlBlock::ensurePriceFeed(const std::string& exchange, const std::string& symbol) {
   if (pricedInstruments_.insert(exchange + "|" + symbol).second)
     subscribeMarketPrice(layer, exchange, symbol);
 }

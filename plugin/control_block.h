@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -18,19 +19,6 @@
 #include "sdk/rx_control.h"
 
 class CWatchView;
-
-// Views that follow what the dispatcher learns; each may be absent.
-class DispatchListener {
- public:
-  virtual void historyRowAdded(std::unique_ptr<sOFSOrderInfo>) {}
-  virtual void historyReplyEnded() {}
-  virtual void marketDepthChanged() {}
-  // Resets and closes the issue dialog; true when it was adding an issue.
-  virtual bool endIssueDialog() { return true; }
-
- protected:
-  ~DispatchListener() = default;
-};
 
 class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
  public:
@@ -63,7 +51,17 @@ class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
   OrderBookLists bookLists;
   // Present while the Market Depth window is open.
   std::unique_ptr<MarketDepthState> marketDepthState;
-  DispatchListener* listener = nullptr;
+
+  // The windows that follow what the dispatcher learns; each is empty while its window is
+  // not there.
+  std::function<void(std::unique_ptr<sOFSOrderInfo>)> onHistoryRow;
+  std::function<void()> onHistoryEnd;
+  std::function<void()> onMarketDepthChanged;
+  // Resets and closes the issue dialog; true when it was adding an issue.
+  std::function<bool()> onEndIssueDialog;
+
+  // Subscribes the price feed of an instrument once; later calls do nothing.
+  void ensurePriceFeed(const std::string& exchange, const std::string& symbol);
 
   void OnLiveUpdate(otp_msg_t msg) override;
   void OnResponse(otp_msg_t msg) override;
@@ -88,7 +86,7 @@ class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
   void issueAdded(sOFSCol& issue) override;
   void assetFirstShown(const std::string& exchange, const std::string& symbol) override;
   void refreshWatchView() override;
-  bool endIssueDialog() override { return listener ? listener->endIssueDialog() : true; }
+  bool endIssueDialog() override { return onEndIssueDialog ? onEndIssueDialog() : true; }
   void historyRowAdded(std::unique_ptr<sOFSOrderInfo> row) override;
   void historyReplyEnded() override;
   MarketDepthState* marketDepth() override { return marketDepthState.get(); }

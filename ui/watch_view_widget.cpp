@@ -13,6 +13,8 @@
 #include "plugin/settings_paths.h"
 #include "ui/issue_list_model.h"
 #include "ui/list_memory.h"
+#include "ui/market_depth_dialog.h"
+#include "ui/scrip_properties_dialog.h"
 
 namespace {
 
@@ -37,6 +39,8 @@ void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, WatchViewWidge
 WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
     : QWidget(parent), block_(block), core_(std::make_unique<CWatchView>(block)) {
   setObjectName("OFSWatchView");
+  setProperty("dumpName", "watch");
+  setProperty("dumpLists", QStringList{"current", "forthcoming", "past"});
   tabs_ = new QTabWidget(this);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -76,6 +80,9 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
 }
 
 WatchViewWidget::~WatchViewWidget() {
+  // The dialogs go first: they let go of the control block's hooks while it still exists.
+  delete marketDepth_;
+  delete scripProperties_;
   writePlacement();
   for (size_t i = 0; i < 3; ++i)
     saveColumns(lists_[i]->horizontalHeader(), CWatchView::kListSettingsNames[i]);
@@ -168,11 +175,15 @@ bool WatchViewWidget::openOrderBook() {
 bool WatchViewWidget::openBasket() {
   return false;
 }
-bool WatchViewWidget::openScripProperties(sOFSCol&) {
-  return false;
+bool WatchViewWidget::openScripProperties(sOFSCol& issue) {
+  if (!scripProperties_) scripProperties_ = new ScripPropertiesDialog(this);
+  scripProperties_->showIssue(issue);
+  return true;
 }
-bool WatchViewWidget::openMarketDepth(sOFSCol&) {
-  return false;
+bool WatchViewWidget::openMarketDepth(sOFSCol& issue) {
+  if (!marketDepth_) marketDepth_ = new MarketDepthDialog(block_, this);
+  marketDepth_->showIssue(issue);
+  return true;
 }
 bool WatchViewWidget::openIssueDetails(sOFSCol*) {
   return false;

@@ -11,6 +11,8 @@
 
 class COFSControlBlock;
 class IssueListModel;
+class MarketDepthDialog;
+class ScripPropertiesDialog;
 class QTabWidget;
 class QTableView;
 
@@ -58,4 +60,6 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   std::array<QTableView*, 3> lists_{};
   std::array<IssueListModel*, 3> models_{};
   bool shownOnce_ = false;
+  MarketDepthDialog* marketDepth_ = nullptr;
+  ScripPropertiesDialog* scripProperties_ = nullptr;
 };

@@ -17,6 +17,7 @@ class WatchFrame : public testing::Test {
  protected:
   WatchFrame() {
     host.clock = localTime(21, 11, 2026, 36000);
+    host.state.userDirectory = testing::TempDir();
     initPlugin(host, host.app(), "U1", 3);
     frame = std::make_unique<COFSFrame>(*controlBlock());
     frame->show();

@@ -1,0 +1,67 @@
+#include "issues/market_depth.h"
+
+#include <cstdio>
+
+#include "domain/exchange_names.h"
+#include "plugin/control_block.h"
+
+namespace {
+
+std::string rupees(int32_t paise) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2lf", paise / 100.0);
+  return text;
+}
+
+}  // namespace
+
+CMarketDepth::~CMarketDepth() {
+  close();
+}
+
+void CMarketDepth::open(const sOFSCol& issue) {
+  exchange_ = issue.exchange;
+  symbol_ = issue.symbol;
+  auto state = std::make_unique<MarketDepthState>();
+  state->exchange = issue.exchange;
+  state->symbol = issue.symbol;
+  state->lastUpdate = "NA";
+  block_.marketDepthState = std::move(state);
+  block_.ensurePriceFeed(issue.exchange, issue.symbol);
+}
+
+void CMarketDepth::close() {
+  // Only the window that opened the state may end it: another issue's window may own it now.
+  MarketDepthState* state = block_.marketDepthState.get();
+  if (state && state->exchange == exchange_ && state->symbol == symbol_)
+    block_.marketDepthState.reset();
+  exchange_.clear();
+  symbol_.clear();
+}
+
+bool CMarketDepth::isOpen() const {
+  const MarketDepthState* state = block_.marketDepthState.get();
+  return state && !symbol_.empty() && state->exchange == exchange_ && state->symbol == symbol_;
+}
+
+std::string CMarketDepth::title() const {
+  return "Market Depth - " + symbol_ + " (" + exchangeScreenName(exchange_) + ")";
+}
+
+std::array<CMarketDepth::Level, 5> CMarketDepth::levels() const {
+  std::array<Level, 5> out;
+  if (!isOpen()) return out;
+  for (size_t i = 0; i < out.size(); ++i) {
+    const MarketDepthLevel& level = block_.marketDepthState->levels[i];
+    out[i] = {rupees(level.price), std::to_string(level.quantity), std::to_string(level.bids)};
+  }
+  return out;
+}
+
+std::string CMarketDepth::totalBidQuantity() const {
+  return isOpen() ? std::to_string(block_.marketDepthState->totalBidQuantity) : "0";
+}
+
+std::string CMarketDepth::lastUpdate() const {
+  return isOpen() ? block_.marketDepthState->lastUpdate : "NA";
+}

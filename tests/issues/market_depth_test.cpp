@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include "issues/market_depth.h"
+#include "issues/scrip_properties.h"
+#include "plugin/control_block.h"
+#include "plugin/lifecycle.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/message_fixtures.h"
+
+namespace {
+
+class MarketDepthWindow : public testing::Test {
+ protected:
+  MarketDepthWindow() {
+    initPlugin(host, host.app(), "U1", 3);
+    host.state.events.clear();
+    issue.exchange = "nse_ipo";
+    issue.symbol = "ABC-RS";
+  }
+  ~MarketDepthWindow() override { exitPlugin(host); }
+  void reply(const FieldList& fields) {
+    auto msg = makeMessage(fields);
+    controlBlock()->OnResponse(msg.get());
+  }
+
+  FakeHost host;
+  sOFSCol issue;
+};
+
+TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
+  CMarketDepth depth(*controlBlock());
+  depth.open(issue);
+  EXPECT_EQ(host.state.events, (Lines{"subscribe 5 63001=\"nse_ipo\" 10100=\"ABC-RS\""}));
+  EXPECT_EQ(depth.title(), "Market Depth - ABC-RS (NSEIPO)");
+  EXPECT_EQ(depth.lastUpdate(), "NA");
+
+  int repaints = 0;
+  controlBlock()->onMarketDepthChanged = [&] { ++repaints; };
+  reply({{32767, "mrv_master"},
+         {63001, "nse_ipo"},
+         {10100, "ABC-RS"},
+         {55000, "12550"},
+         {55500, "40"},
+         {56000, "3"},
+         {54283, "90"},
+         {63080, "10:15:02"}});
+  reply({{32767, "mrv_master"}, {63001, "nse_ipo"}, {10100, "OTHER-RS"}, {55000, "1"}});
+  EXPECT_EQ(repaints, 1);
+  EXPECT_EQ(depth.levels()[0].price, "125.50");
+  EXPECT_EQ(depth.levels()[0].quantity, "40");
+  EXPECT_EQ(depth.levels()[0].bids, "3");
+  EXPECT_EQ(depth.levels()[1].price, "0.00");
+  EXPECT_EQ(depth.totalBidQuantity(), "90");
+  EXPECT_EQ(depth.lastUpdate(), "10:15:02");
+  // The update handed the instrument to the host again: no second subscription.
+  EXPECT_EQ(host.state.events.size(), 1u);
+
+  depth.close();
+  EXPECT_FALSE(depth.isOpen());
+  EXPECT_EQ(controlBlock()->marketDepthState, nullptr);
+  controlBlock()->onMarketDepthChanged = nullptr;
+}
+
+TEST_F(MarketDepthWindow, ClosingAnOlderWindowLeavesTheNewerOnesState) {
+  CMarketDepth first(*controlBlock());
+  CMarketDepth second(*controlBlock());
+  first.open(issue);
+  sOFSCol other = issue;
+  other.symbol = "XYZ-RS";
+  second.open(other);
+  first.close();
+  EXPECT_TRUE(second.isOpen());
+}
+
+TEST(ScripProperties, ListsEveryPropertyWithReadableLabels) {
+  sOFSCol issue;
+  issue.symbol = "ABC-RS";
+  issue.exchange = "bse_ipo";
+  issue.biddingFlag = "N";
+  issue.tickSize = 0.05;
+  CScripProp props;
+  props.show(issue);
+  EXPECT_EQ(props.title(), "Scrip Properties - ABC-RS");
+  auto value = [&](const std::string& label) {
+    for (const auto& [l, v] : props.rows())
+      if (l == label) return v;
+    return std::string("<missing>");
+  };
+  EXPECT_EQ(value("Exchange"), "BSEIPO");
+  EXPECT_EQ(value("Bidding Allowed"), "No");
+  EXPECT_EQ(value("Tick Size"), "0.05");
+  EXPECT_EQ(value("Underlying LTP"), "NA");
+  EXPECT_EQ(props.rows().size(), 32u);
+}
+
+}  // namespace

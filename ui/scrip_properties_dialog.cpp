@@ -1,0 +1,34 @@
+#include "ui/scrip_properties_dialog.h"
+
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+ScripPropertiesDialog::ScripPropertiesDialog(QWidget* parent) : QDialog(parent) {
+  setObjectName("ScripProperties");
+  table_ = new QTableWidget(0, 2, this);
+  table_->setObjectName("properties");
+  table_->setHorizontalHeaderLabels({"Property", "Value"});
+  table_->verticalHeader()->hide();
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->horizontalHeader()->setStretchLastSection(true);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(table_);
+  resize(420, 560);
+}
+
+void ScripPropertiesDialog::showIssue(const sOFSCol& issue) {
+  properties_.show(issue);
+  setWindowTitle(QString::fromStdString(properties_.title()));
+  setProperty("heading", windowTitle());
+  const auto& rows = properties_.rows();
+  table_->setRowCount(static_cast<int>(rows.size()));
+  for (int r = 0; r < static_cast<int>(rows.size()); ++r) {
+    const auto& [label, value] = rows[static_cast<size_t>(r)];
+    table_->setItem(r, 0, new QTableWidgetItem(QString::fromStdString(label)));
+    table_->setItem(r, 1, new QTableWidgetItem(QString::fromStdString(value)));
+  }
+  show();
+  raise();
+  activateWindow();
+}
