@@ -1,0 +1,39 @@
+// A running plug-in on a fake host with one issue in the issues map and an order-entry screen
+// on it, for the order-entry tests. The clock reads 21/11/2026 10:00:00.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "domain/order_entry.h"
+#include "plugin/control_block.h"
+#include "tests/support/fake_host.h"
+
+// NSE retail issue I1 "ABC-<series>": band 100-200, tick 0.05, minimum 10, lot 5, no size limit,
+// retail limit 200000, non-retail limit 500000, cut-off allowed, no closing time.
+sOFSCol nseIssue(const std::string& series = "RS");
+// The same terms on BSE, symbol "XYZ-<series>", categories key "CAT".
+sOFSCol bseIssue(const std::string& series);
+// An open NSE order 17 of account A1 on I1: 100 at 150.00, limit, "100% Margin", by user U1.
+sOFSOrderInfo openOrder(const std::string& symbol = "ABC-RS");
+
+class OrderEntryFixture : public testing::Test {
+ protected:
+  OrderEntryFixture();
+  ~OrderEntryFixture() override;
+
+  // Starts the plug-in; host settings (accounts, peers) must be made before.
+  void start();
+  COFSControlBlock& block() { return *controlBlock(); }
+  RecordingPrompt& prompt() { return host.promptLog; }
+  // The lines the receive controls sent since start().
+  Lines sends() const;
+
+  // Stores the issue in the issues map and returns the stored record.
+  const sOFSCol& addIssue(const sOFSCol& issue);
+
+  FakeHost host;
+  std::unique_ptr<COrderEntryDlg> dialog;
+};
