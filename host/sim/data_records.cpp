@@ -10,12 +10,12 @@ namespace sim {
 namespace {
 
 constexpr std::pair<const char*, uint32_t> kIssueKeys[] = {
-    {"id", 63032},       {"exchange", 63001}, {"code", 3},           {"series", 10610},
-    {"floor", 63022},    {"rms", 54079},      {"open", 49165},       {"close", 79},
-    {"minqty", 55},      {"size", 10062},     {"lot", 10027},        {"hni", 64211},
-    {"tick", 63005},     {"cutoff", 63059},   {"symbol", 10100},     {"company", 49033},
-    {"asset", 54730},    {"ceiling", 63023},  {"indicative", 54803}, {"bidding", 54571},
-    {"modcancel", 61362}};
+    {"id", 63032},        {"exchange", 63001}, {"code", 3},           {"series", 10610},
+    {"floor", 63022},     {"rms", 54079},      {"open", 49165},       {"close", 79},
+    {"minqty", 55},       {"size", 10062},     {"lot", 10027},        {"hni", 64211},
+    {"tick", 63005},      {"cutoff", 63059},   {"symbol", 10100},     {"company", 49033},
+    {"asset", 54730},     {"ceiling", 63023},  {"indicative", 54803}, {"bidding", 54571},
+    {"modcancel", 61362}, {"retail", 54009},   {"closing", 67}};
 
 std::optional<uint32_t> issueFieldId(const std::string& key) {
   for (const auto& [name, id] : kIssueKeys)
@@ -52,6 +52,26 @@ const Issue* findIssue(const ExchangeData& data, const std::string& id) {
   for (const Issue& issue : data.issues)
     if (issue.id() == id) return &issue;
   return nullptr;
+}
+
+Order takeOrder(Pairs& pairs) {
+  Order order;
+  order.number = pairs.take("no", "");
+  order.user = pairs.take("user", "U1");
+  order.issueId = pairs.take("issue", "");
+  order.account = pairs.take("account", "");
+  order.walkin = pairs.take("walkin", "");
+  order.quantity = pairs.take("qty", "");
+  order.proCli = pairs.take("procli", "C");
+  order.margin = pairs.take("margin", "YES");
+  order.pCode = pairs.take("pcode", "");
+  order.bsePCode = pairs.take("bsepcode", "");
+  order.category = pairs.take("category", "");
+  order.status = pairs.take("status", "open");
+  order.reason = pairs.take("reason", "");
+  order.cfStatus = pairs.take("cf", "Active");
+  order.exchangeNumber = pairs.take("exchangeno", "");
+  return order;
 }
 
 }  // namespace
@@ -130,25 +150,10 @@ std::string readPeer(Pairs& pairs, ExchangeData& data) {
 }
 
 std::string readOrder(Pairs& pairs, ExchangeData& data) {
-  Order order;
-  order.number = pairs.take("no", "");
-  order.user = pairs.take("user", "U1");
-  order.issueId = pairs.take("issue", "");
-  order.account = pairs.take("account", "");
-  order.walkin = pairs.take("walkin", "");
-  order.quantity = pairs.take("qty", "");
+  Order order = takeOrder(pairs);
   const std::string price = pairs.take("price", "");
-  order.proCli = pairs.take("procli", "C");
-  order.margin = pairs.take("margin", "YES");
-  order.pCode = pairs.take("pcode", "");
-  order.bsePCode = pairs.take("bsepcode", "");
-  order.category = pairs.take("category", "");
-  order.status = pairs.take("status", "open");
-  order.reason = pairs.take("reason", "");
-  order.cfStatus = pairs.take("cf", "Active");
-  order.exchangeNumber = pairs.take("exchangeno", "");
-  const Issue* issue = findIssue(data, order.issueId);
   const auto paise = parseFixed(price, 2);
+  const Issue* issue = findIssue(data, order.issueId);
   if (!parseCount(order.number)) return "order needs a number no=";
   if (!issue) return "order names issue " + order.issueId + ", which no earlier line gives";
   if (order.account.empty() == order.walkin.empty()) return "order needs account= or walkin=";
@@ -158,7 +163,7 @@ std::string readOrder(Pairs& pairs, ExchangeData& data) {
     if (other.number == order.number) return "order " + order.number + " is there twice";
   order.exchange = issue->exchange();
   order.symbol = issue->symbol();
-  order.priceType = price == "MKT" ? "MKT" : "L";
+  order.priceType = paise ? "L" : "MKT";
   order.price = paise ? std::to_string(*paise) : "MKT";
   data.orders.push_back(std::move(order));
   return {};

@@ -66,7 +66,7 @@ void SimExchange::refuseChange(Order& order, const std::string& event, const Ref
 
 void SimExchange::modifyOrder(const RequestFields& request, Answers& answers) {
   if (auto bad = malformedChange(request, true)) return answers.fail(*bad);
-  Order* order = findOrder(request.text(64001));
+  Order* order = orderOf(request.text(64001));
   if (!order) return answers.fail(unknownOrder(request.text(64001)));
   const Issue* issue = findIssue(order->issueId);
   Order changed = *order;
@@ -86,7 +86,7 @@ void SimExchange::modifyOrder(const RequestFields& request, Answers& answers) {
 
 void SimExchange::cancelOrder(const RequestFields& request, Answers& answers) {
   if (auto bad = malformedChange(request, false)) return answers.fail(*bad);
-  Order* order = findOrder(request.text(64001));
+  Order* order = orderOf(request.text(64001));
   if (!order) return answers.fail(unknownOrder(request.text(64001)));
   if (auto refusal = changeRefusal(*order, findIssue(order->issueId), today()))
     return refuseChange(*order, "cancel rejected", *refusal, answers);

@@ -118,14 +118,14 @@ Issue* SimExchange::findIssueByIdOrCode(const std::string& exchange, const std::
   return nullptr;
 }
 
-Order* SimExchange::findOrder(const std::string& number) {
+Order* SimExchange::orderOf(const std::string& number) {
   for (Order& order : data_.orders)
     if (order.number == number) return &order;
   return nullptr;
 }
 
 const Order* SimExchange::findOrder(const std::string& number) const {
-  return const_cast<SimExchange*>(this)->findOrder(number);
+  return const_cast<SimExchange*>(this)->orderOf(number);
 }
 
 }  // namespace sim

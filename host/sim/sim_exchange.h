@@ -78,7 +78,7 @@ class SimExchange {
   Issue* findIssue(const std::string& exchange, const std::string& symbol);
   // By id or by its code (field 3) on the exchange, as the administration requests name it.
   Issue* findIssueByIdOrCode(const std::string& exchange, const std::string& key);
-  Order* findOrder(const std::string& number);
+  Order* orderOf(const std::string& number);
 
   ExchangeData data_;
   Options options_;

@@ -1,0 +1,103 @@
+#include "tests/host_sim/sim_fixture.h"
+
+#include <ctime>
+#include <sstream>
+#include <stdexcept>
+
+#include "host/sim/data_file.h"
+
+namespace simtest {
+
+const char* const kFixtureData = R"(
+issue id=N1 exchange=nse_ipo code=ABC series=RS symbol=ABC-RS open=-1 close=+1 floor=100.00 tick=0.05 minqty=10 lot=5 cutoff=Y asset=ABC bidding=Y modcancel=Y
+issue id=N2 exchange=nse_ipo code=ABC series=IS symbol=ABC-IS open=0 close=0 floor=100.00 tick=0.05 minqty=1 lot=1 cutoff=N bidding=Y
+issue id=N3 exchange=nse_ipo code=OLD series=RS symbol=OLD-RS open=-5 close=-1 floor=10.00 tick=0.05 bidding=Y
+issue id=N4 exchange=nse_ipo code=NEW series=RS symbol=NEW-RS open=+1 close=+2 floor=10.00 tick=0.05 bidding=Y
+issue id=N5 exchange=nse_ipo code=HLD series=IS symbol=HLD-IS open=-1 close=+1 floor=10.00 tick=0.05 bidding=N
+issue id=B1 exchange=bse_ipo code=XYZ series=Retail symbol=XYZ-Retail open=0 close=0 floor=400.00 tick=0.25 bidding=Y modcancel=Y
+issue id=B2 exchange=bse_ipo code=XYZ series=NonRetail symbol=XYZ-NonRetail open=0 close=0 floor=400.00 tick=0.25 bidding=Y modcancel=N
+account id=A1 pcode=PC1 custodian=CU1 name="Asha Rao"
+account id=A2
+category series=Retail value=RI
+category series=Retail value=RIC
+asset exchange=nse_cm symbol=ABC ltp=245.30
+peer user=U1 data=PEER
+order no=501 issue=N1 account=A2 qty=10 price=101.00
+order no=502 issue=N1 account=A1 procli=F qty=20 price=102.00
+order no=503 issue=N1 walkin=W1 qty=15 price=MKT
+order no=504 issue=N1 account=A2 qty=10 price=101.00 status=cancelled
+order no=505 issue=B1 account=A2 qty=4 price=400.00
+order no=506 user=U2 issue=N1 account=A2 qty=10 price=103.00
+order no=507 issue=B2 account=A2 qty=4 price=400.00
+)";
+
+int64_t fixedClock() {
+  std::tm tm{};
+  tm.tm_mday = 21;
+  tm.tm_mon = 10;
+  tm.tm_year = 126;
+  tm.tm_hour = 10;
+  tm.tm_min = 15;
+  tm.tm_isdst = -1;
+  return static_cast<int64_t>(std::mktime(&tm));
+}
+
+namespace {
+
+sim::ExchangeData load(const std::string& text) {
+  std::istringstream in(text);
+  std::string error;
+  auto data = sim::readExchangeData(in, error);
+  if (!data) throw std::runtime_error(error);
+  return *data;
+}
+
+std::optional<std::string> terminalAccount(const std::string& id) {
+  if (id == "T1") return std::string("TPC");
+  return std::nullopt;
+}
+
+}  // namespace
+
+SimFixture::SimFixture() : SimFixture(kFixtureData) {}
+
+SimFixture::SimFixture(const std::string& data)
+    : exchange(load(data), {fixedClock, terminalAccount}) {}
+
+sim::Deliveries SimFixture::ask(const std::string& name, const FieldList& fields) {
+  std::vector<otpx::Field> views{{0, name}};
+  for (const auto& [id, v] : fields) views.push_back({id, v});
+  return exchange.request(*otp_message::build(views), &asker);
+}
+
+void SimFixture::subscribeListeners() {
+  exchange.subscribe({{31003, "U1"}, {63001, "nse_ipo"}, {64001, ""}}, &listener);
+  exchange.subscribe({{31003, "U1"}, {63001, "bse_ipo"}, {64001, ""}}, &bseListener);
+}
+
+std::vector<std::string> values(const sim::Delivery& d, uint32_t id) {
+  std::vector<std::string> found;
+  for (const auto& [field, v] : d.fields)
+    if (field == id) found.push_back(v);
+  return found;
+}
+
+std::string value(const sim::Delivery& d, uint32_t id) {
+  const auto found = values(d, id);
+  return found.empty() ? "<absent>" : found.front();
+}
+
+Lines describe(const SimFixture& f, const sim::Deliveries& out, const std::vector<uint32_t>& ids) {
+  Lines lines;
+  for (const sim::Delivery& d : out) {
+    std::string line = d.live ? "live " : "reply ";
+    line += d.to == &f.asker ? "asker" : d.to == &f.listener ? "listener" : "bse";
+    line += " " + value(d, sim::kName);
+    for (uint32_t id : ids)
+      for (const std::string& v : values(d, id)) line += " " + std::to_string(id) + "=" + v;
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+}  // namespace simtest
