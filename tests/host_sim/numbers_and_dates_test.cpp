@@ -31,12 +31,6 @@ INSTANTIATE_TEST_SUITE_P(Numbers, FixedText,
                                          FixedCase{"blank_inside", "1 0", 2, std::nullopt}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(FixedText, WritesWithItsDecimals) {
-  EXPECT_EQ(sim::fixedText(10150, 2), "101.50");
-  EXPECT_EQ(sim::fixedText(5, 2), "0.05");
-  EXPECT_EQ(sim::fixedText(7, 0), "7");
-}
-
 struct DateCase {
   const char* name;
   const char* text;

@@ -136,12 +136,6 @@ TEST(Replies, EchoEveryTagOnEveryMessage) {
              "32760=Basket"}));
 }
 
-TEST(Replies, TerminalAccountsAreKnownWithTheirParticipantCode) {
-  SimFixture f;
-  EXPECT_EQ(describe(f, f.ask("om_get_acct_info", {{54001, "T1"}}), {10332}),
-            (Lines{"reply asker om_get_acct_info 10332=TPC", "reply asker om_get_acct_info"}));
-}
-
 struct ReportCase {
   const char* name;
   const char* message;
