@@ -59,6 +59,8 @@ class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
   std::function<void()> onMarketDepthChanged;
   // Resets and closes the issue dialog; true when it was adding an issue.
   std::function<bool()> onEndIssueDialog;
+  // The host made another client active (empty: none); the order book filters to it.
+  std::function<void(const std::string&)> onActiveClientChanged;
 
   // Subscribes the price feed of an instrument once; later calls do nothing.
   void ensurePriceFeed(const std::string& exchange, const std::string& symbol);

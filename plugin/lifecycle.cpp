@@ -137,8 +137,10 @@ void exitPlugin(PluginPlatform& platform) {
 }
 
 int activateClient(const std::string& clientId) {
-  if (!controlBlock()) return 0;
+  COFSControlBlock* block = controlBlock();
+  if (!block) return 0;
   theActiveClient = clientId;
+  if (block->onActiveClientChanged) block->onActiveClientChanged(clientId);
   return 1;
 }
 

@@ -1,8 +1,10 @@
 #include "ui/ofs_frame.h"
 
+#include <QDockWidget>
 #include <QSettings>
 
 #include "plugin/settings_paths.h"
+#include "ui/order_book_widget.h"
 #include "ui/watch_view_widget.h"
 
 COFSFrame::COFSFrame(COFSControlBlock& block, QWidget* parent) : QMainWindow(parent) {
@@ -10,8 +12,18 @@ COFSFrame::COFSFrame(COFSControlBlock& block, QWidget* parent) : QMainWindow(par
   setWindowTitle("OFS");
   watchView_ = new WatchViewWidget(block, this);
   setCentralWidget(watchView_);
+  orderBook_ = new QDockWidget("Order Book", this);
+  orderBook_->setObjectName("OrderBookDock");
+  orderBook_->setWidget(new OrderBookWidget(block, orderBook_));
+  addDockWidget(Qt::BottomDockWidgetArea, orderBook_);
+  orderBook_->hide();
   QSettings settings(kLayoutOrganisation, kLayoutApplication);
   restoreState(settings.value("FrameLayout").toByteArray());
+}
+
+void COFSFrame::showOrderBook() {
+  orderBook_->show();
+  orderBook_->raise();
 }
 
 void COFSFrame::saveLayout() const {

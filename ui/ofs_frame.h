@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 class COFSControlBlock;
+class QDockWidget;
 class WatchViewWidget;
 
 class COFSFrame : public QMainWindow {
@@ -13,9 +14,12 @@ class COFSFrame : public QMainWindow {
   COFSFrame(COFSControlBlock& block, QWidget* parent = nullptr);
 
   WatchViewWidget* watchView() const { return watchView_; }
+  // Shows the docked order book and brings it forward.
+  void showOrderBook();
   // Stores the docking layout under the plug-in's organisation and application.
   void saveLayout() const;
 
  private:
   WatchViewWidget* watchView_;
+  QDockWidget* orderBook_;
 };

@@ -15,6 +15,7 @@
 #include "plugin/plugin_identity.h"
 #include "ui/list_memory.h"
 #include "ui/ofs_frame.h"
+#include "ui/watch_view_widget.h"
 
 namespace {
 
@@ -79,6 +80,10 @@ void QtPlatform::saveLayoutAndCloseFrame() {
   } else {
     delete frame_.data();
   }
+}
+
+void QtPlatform::destroyDialogWindows() {
+  if (frame_ && frame_->watchView()) frame_->watchView()->destroyDialogs();
 }
 
 void QtPlatform::setRecoveryFiles(const std::string& userSettings, const std::string& dialogPos) {

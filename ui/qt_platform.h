@@ -22,7 +22,7 @@ class QtPlatform : public PluginPlatform, public SymbolLookup {
   bool frameExists() const override { return !frame_.isNull(); }
   void showFrame() override;
   void saveLayoutAndCloseFrame() override;
-  void destroyDialogWindows() override {}
+  void destroyDialogWindows() override;
   void setRecoveryFiles(const std::string& userSettings, const std::string& dialogPos) override;
   void createImageList() override;
   void reapplyFonts(int64_t fontStamp) override;

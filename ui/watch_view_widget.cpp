@@ -14,6 +14,9 @@
 #include "ui/issue_list_model.h"
 #include "ui/list_memory.h"
 #include "ui/market_depth_dialog.h"
+#include "ui/ofs_frame.h"
+#include "ui/order_entry_dialog.h"
+#include "ui/qt_platform.h"
 #include "ui/scrip_properties_dialog.h"
 
 namespace {
@@ -79,10 +82,18 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
   core_->setLauncher(this);
 }
 
+void WatchViewWidget::destroyDialogs() {
+  delete orderEntry_;
+  orderEntry_ = nullptr;
+  delete marketDepth_;
+  marketDepth_ = nullptr;
+  delete scripProperties_;
+  scripProperties_ = nullptr;
+}
+
 WatchViewWidget::~WatchViewWidget() {
   // The dialogs go first: they let go of the control block's hooks while it still exists.
-  delete marketDepth_;
-  delete scripProperties_;
+  destroyDialogs();
   writePlacement();
   for (size_t i = 0; i < 3; ++i)
     saveColumns(lists_[i]->horizontalHeader(), CWatchView::kListSettingsNames[i]);
@@ -166,11 +177,16 @@ void WatchViewWidget::writePlacement() const {
 }
 
 // Screens that arrive with later work answer false until they are wired here.
-bool WatchViewWidget::openOrderEntry(sOFSCol&) {
-  return false;
+bool WatchViewWidget::openOrderEntry(sOFSCol& issue) {
+  if (!orderEntry_) orderEntry_ = new OrderEntryDialog(block_, qtPlatform().prompt(), this);
+  orderEntry_->openNewBid(issue);
+  return true;
 }
 bool WatchViewWidget::openOrderBook() {
-  return false;
+  auto* frame = qobject_cast<COFSFrame*>(parentWidget());
+  if (!frame) return false;
+  frame->showOrderBook();
+  return true;
 }
 bool WatchViewWidget::openBasket() {
   return false;

@@ -12,6 +12,7 @@
 class COFSControlBlock;
 class IssueListModel;
 class MarketDepthDialog;
+class OrderEntryDialog;
 class ScripPropertiesDialog;
 class QTabWidget;
 class QTableView;
@@ -24,6 +25,8 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   ~WatchViewWidget() override;
 
   CWatchView& core() { return *core_; }
+  // Closes the windows that must not outlive the plug-in's shutdown.
+  void destroyDialogs();
 
  public slots:
   // The host's delivery of a registered shortcut.
@@ -61,5 +64,6 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   std::array<IssueListModel*, 3> models_{};
   bool shownOnce_ = false;
   MarketDepthDialog* marketDepth_ = nullptr;
+  OrderEntryDialog* orderEntry_ = nullptr;
   ScripPropertiesDialog* scripProperties_ = nullptr;
 };
