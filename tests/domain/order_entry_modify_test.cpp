@@ -7,13 +7,16 @@
 namespace {
 
 using Arrange = std::function<void(sOFSCol&, sOFSOrderInfo&)>;
-using Act = std::function<void(COrderEntryDlg&)>;
 
 const Arrange kAsIs = [](sOFSCol&, sOFSOrderInfo&) {};
 
-void isNoMarginOrder(sOFSCol& issue, sOFSOrderInfo& order) {
+void onIsSeries(sOFSCol& issue, sOFSOrderInfo& order) {
   issue = nseIssue("IS");
   order.symbol = issue.symbol;
+}
+
+void isNoMarginOrder(sOFSCol& issue, sOFSOrderInfo& order) {
+  onIsSeries(issue, order);
   order.margin = "No Margin";
 }
 
@@ -34,9 +37,9 @@ class Modify : public OrderEntryFixture {
 struct RefusalCase {
   const char* name;
   Arrange arrange;
-  Act act;
+  EntryAct act;
   std::string message;
-  std::string focus;
+  std::string focus = "";
 };
 
 class ModifyRefusal : public Modify, public testing::WithParamInterface<RefusalCase> {};
@@ -59,8 +62,8 @@ INSTANTIATE_TEST_SUITE_P(
     Steps, ModifyRefusal,
     testing::Values(
         RefusalCase{"one_second_after_closing",
-                    [](sOFSCol& i, sOFSOrderInfo&) { i.field67 = "09:59:59"; }, [](auto&) {},
-                    "Cannot Place ofs after offer Closing time", ""},
+                    [](sOFSCol& i, sOFSOrderInfo&) { i.field67 = "09:59:59"; }, kNoAct,
+                    "Cannot Place ofs after offer Closing time"},
         RefusalCase{"bse_without_category",
                     [](sOFSCol& i, sOFSOrderInfo& o) {
                       i = bseIssue("Retail");
@@ -68,60 +71,37 @@ INSTANTIATE_TEST_SUITE_P(
                       o.exchange = "bse_ipo";
                       o.symbol = i.symbol;
                     },
-                    [](auto&) {}, "client category is not set for the selected AccountID", ""},
-        RefusalCase{"above_the_ceiling", kAsIs, [](auto& d) { d.setPrice("250"); },
-                    "Price placed is beyond the Ceiling Price", ""},
-        RefusalCase{"empty_price", kAsIs, [](auto& d) { d.setPrice(""); },
-                    "Please enter some Price", ""},
-        RefusalCase{"zero_price", kAsIs, [](auto& d) { d.setPrice("0"); }, "Price cant be zero",
-                    "Price"},
+                    kNoAct, "client category is not set for the selected AccountID"},
+        RefusalCase{"above_the_ceiling", kAsIs, typePrice("250"),
+                    "Price placed is beyond the Ceiling Price"},
+        RefusalCase{"empty_price", kAsIs, typePrice(""), "Please enter some Price"},
+        RefusalCase{"zero_price", kAsIs, typePrice("0"), "Price cant be zero", "Price"},
         RefusalCase{"off_the_orders_tick", [](sOFSCol&, sOFSOrderInfo& o) { o.issueTickSize = 1; },
-                    [](auto& d) { d.setPrice("150.5"); },
-                    "Price should be multiple of Tick Size which is 1.00 rupees for this security",
-                    ""},
-        RefusalCase{"empty_quantity", kAsIs, [](auto& d) { d.setQuantity(""); },
-                    "Please enter some quantity", ""},
-        RefusalCase{"below_minimum", kAsIs, [](auto& d) { d.setQuantity("5"); },
-                    "Order minimum Quantity is 10", ""},
-        RefusalCase{"off_the_lot", kAsIs, [](auto& d) { d.setQuantity("12"); },
-                    "Qty should be a multiple of Lot which is 5 for this security", ""},
-        RefusalCase{"is_no_margin_price_down", isNoMarginOrder, [](auto& d) { d.setPrice("140"); },
-                    "Price cannot be modified downwards", ""},
-        RefusalCase{"is_no_margin_quantity_down", isNoMarginOrder,
-                    [](auto& d) { d.setQuantity("50"); }, "Quantity cannot be modified downwards",
-                    ""},
-        RefusalCase{"below_the_floor", kAsIs, [](auto& d) { d.setPrice("90"); },
-                    "Price Should be more than or equal to Floor Price 100.0000", ""},
+                    typePrice("150.5"),
+                    "Price should be multiple of Tick Size which is 1.00 rupees for this security"},
+        RefusalCase{"empty_quantity", kAsIs, typeQuantity(""), "Please enter some quantity"},
+        RefusalCase{"below_minimum", kAsIs, typeQuantity("5"), "Order minimum Quantity is 10"},
+        RefusalCase{"off_the_lot", kAsIs, typeQuantity("12"),
+                    "Qty should be a multiple of Lot which is 5 for this security"},
+        RefusalCase{"is_no_margin_price_down", isNoMarginOrder, typePrice("140"),
+                    "Price cannot be modified downwards"},
+        RefusalCase{"is_no_margin_quantity_down", isNoMarginOrder, typeQuantity("50"),
+                    "Quantity cannot be modified downwards"},
+        RefusalCase{"below_the_floor", kAsIs, typePrice("90"),
+                    "Price Should be more than or equal to Floor Price 100.0000"},
         RefusalCase{"above_issue_size", [](sOFSCol& i, sOFSOrderInfo&) { i.issueSize = 50; },
-                    [](auto&) {}, "Qty should be lesser than 50 (Issue Size) for this security",
-                    ""},
-        RefusalCase{"retail_amount", kAsIs, [](auto& d) { d.setQuantity("2000"); },
-                    "Amount cannot be greater than 200000 for RS series orders", ""},
-        RefusalCase{"non_retail_amount",
-                    [](sOFSCol& i, sOFSOrderInfo& o) {
-                      i = nseIssue("IS");
-                      o.symbol = i.symbol;
-                    },
-                    [](auto&) {}, "Amount Should Exceed 500000 for IS series orders", ""},
+                    kNoAct, "Qty should be lesser than 50 (Issue Size) for this security"},
+        RefusalCase{"retail_amount", kAsIs, typeQuantity("2000"),
+                    "Amount cannot be greater than 200000 for RS series orders"},
+        RefusalCase{"non_retail_amount", onIsSeries, kNoAct,
+                    "Amount Should Exceed 500000 for IS series orders"},
         RefusalCase{"ten_digit_quantity",
                     [](sOFSCol& i, sOFSOrderInfo& o) {
-                      i = nseIssue("IS");
+                      onIsSeries(i, o);
                       i.lotSize = 0;
-                      o.symbol = i.symbol;
                     },
-                    [](auto& d) { d.setQuantity("1000000000"); },
-                    "Qty. should not be more than 9 Digits", ""}),
+                    typeQuantity("1000000000"), "Qty. should not be more than 9 Digits"}),
     [](const auto& info) { return info.param.name; });
-
-TEST_F(Modify, ShowsTheOrderAndItsHeading) {
-  openModify();
-  EXPECT_EQ(dialog->heading(), "Modify OFS Order");
-  EXPECT_EQ(dialog->buttonText(), "Modify");
-  EXPECT_EQ(dialog->fields().price.text, "150.00");
-  EXPECT_EQ(dialog->fields().quantity.text, "100");
-  EXPECT_EQ(dialog->fields().priceRange, "100-200");
-  EXPECT_EQ(dialog->fields().exchange.text, "NSEIPO");
-}
 
 TEST_F(Modify, AnNseMarketOrderShowsMktInADisabledPrice) {
   openModify([](sOFSCol&, sOFSOrderInfo& o) {
@@ -134,6 +114,8 @@ TEST_F(Modify, AnNseMarketOrderShowsMktInADisabledPrice) {
 
 TEST_F(Modify, IsSentThenTheScreenReturnsToNewBids) {
   openModify();
+  EXPECT_EQ(dialog->buttonText(), "Modify");
+  EXPECT_EQ(dialog->fields().price.text, "150.00");
   dialog->setPrice("160");
   dialog->setQuantity("200");
   dialog->submit();
@@ -157,23 +139,29 @@ TEST_F(Modify, ACutOffEntryGoesAtTheCeiling) {
   EXPECT_NE(sends()[0].find("12008=\"MKT\" 32760=\"MKT\" 10306=\"20000\""), std::string::npos);
 }
 
-TEST_F(Modify, AnIsNoMarginOrderMayGoUp) {
-  openModify(isNoMarginOrder);
-  dialog->setPrice("160");
-  dialog->setQuantity("4000");
+struct RevisionCase {
+  const char* name;
+  Arrange arrange;
+  const char* price;
+  const char* quantity;
+};
+
+class AcceptedRevision : public Modify, public testing::WithParamInterface<RevisionCase> {};
+
+TEST_P(AcceptedRevision, IsSent) {
+  openModify(GetParam().arrange);
+  dialog->setPrice(GetParam().price);
+  dialog->setQuantity(GetParam().quantity);
   dialog->submit();
   EXPECT_TRUE(prompt().messages().empty());
   EXPECT_EQ(sends().size(), 1u);
 }
 
-TEST_F(Modify, AnRsOrderMayGoDown) {
-  openModify();
-  dialog->setPrice("140");
-  dialog->setQuantity("50");
-  dialog->submit();
-  EXPECT_TRUE(prompt().messages().empty());
-  EXPECT_EQ(sends().size(), 1u);
-}
+INSTANTIATE_TEST_SUITE_P(Directions, AcceptedRevision,
+                         testing::Values(RevisionCase{"is_no_margin_up", isNoMarginOrder, "160",
+                                                      "4000"},
+                                         RevisionCase{"rs_down", kAsIs, "140", "50"}),
+                         [](const auto& info) { return info.param.name; });
 
 TEST_F(Modify, AnOrderWithoutAccountGoesAsWalkinWithTheTypedPCode) {
   openModify([](sOFSCol&, sOFSOrderInfo& o) {

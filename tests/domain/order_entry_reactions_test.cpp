@@ -103,18 +103,12 @@ INSTANTIATE_TEST_SUITE_P(
         ClientTypeCase{"walkin", "RS", {"A1"}, "Walkin", {"", false, false}, true, false}),
     [](const auto& info) { return info.param.name; });
 
-TEST_F(Reactions, ClientTypesAreTheHostsOrOwnPlusWalkin) {
+TEST_F(Reactions, AnNseBidOffersThreeClientTypesAndNoCategory) {
   openOn(nseIssue());
   EXPECT_EQ(f().clientType.items, (Strings{"CLI", "PRO", "Walkin"}));
   EXPECT_EQ(f().clientType.selected, "CLI");
-}
-
-TEST_F(Reactions, ChangingTheClientTypeEmptiesTheWalkinCodes) {
-  openOn(nseIssue());
-  dialog->selectClientType("Walkin");
-  dialog->setWalkinClientCode("W1");
-  dialog->selectClientType("Walkin");
-  EXPECT_EQ(f().walkinClientCode.text, "");
+  EXPECT_TRUE(f().clientCategory.items.empty());
+  EXPECT_FALSE(f().clientCategory.enabled);
 }
 
 TEST_F(Reactions, AnNseRetailAccountWithPCodeIsRefused) {
@@ -178,13 +172,6 @@ TEST_F(Reactions, ABseEmployeeRetailBidOffersEveryCategory) {
   openOn(bseIssue("Employee"));
   EXPECT_EQ(f().clientCategory.items.size(), 7u);
   EXPECT_EQ(f().clientCategory.selected, "RI");
-}
-
-TEST_F(Reactions, TheNseScreenHasNoCategories) {
-  openOn(nseIssue());
-  EXPECT_TRUE(f().clientCategory.items.empty());
-  EXPECT_FALSE(f().clientCategory.enabled);
-  EXPECT_FALSE(dialog->selectClientCategory("RI"));
 }
 
 TEST_F(Reactions, OpeningShowsTheIssue) {

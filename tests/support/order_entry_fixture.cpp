@@ -76,3 +76,15 @@ sOFSOrderInfo openOrder(const std::string& symbol) {
   order.proCliFlag = "C";
   return order;
 }
+
+EntryAct typeQuantity(const std::string& text) {
+  return [text](COrderEntryDlg& d) { d.setQuantity(text); };
+}
+
+EntryAct typePrice(const std::string& text) {
+  return [text](COrderEntryDlg& d) { d.setPrice(text); };
+}
+
+EntryAct pickClientType(const std::string& entry) {
+  return [entry](COrderEntryDlg& d) { d.selectClientType(entry); };
+}

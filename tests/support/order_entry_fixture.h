@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -18,6 +19,13 @@ sOFSCol nseIssue(const std::string& series = "RS");
 sOFSCol bseIssue(const std::string& series);
 // An open NSE order 17 of account A1 on I1: 100 at 150.00, limit, "100% Margin", by user U1.
 sOFSOrderInfo openOrder(const std::string& symbol = "ABC-RS");
+
+// One thing the user does on the screen, for test tables.
+using EntryAct = std::function<void(COrderEntryDlg&)>;
+EntryAct typeQuantity(const std::string& text);
+EntryAct typePrice(const std::string& text);
+EntryAct pickClientType(const std::string& entry);
+const EntryAct kNoAct = [](COrderEntryDlg&) {};
 
 class OrderEntryFixture : public testing::Test {
  protected:
