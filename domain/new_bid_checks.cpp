@@ -43,7 +43,7 @@ Verdict fillBidClient(const OrderEntryFields& f, const SubmitContext& c, sOFSPla
   if (type == kWalkinClient) {
     bid.walkinClientId = f.walkinClientCode.text;
     bid.pCode = f.walkinParticipantCode.text;
-    // Both codes are tested here: no step before their own can refuse a walk-in bid.
+    // Both codes at once: no step between here and their own can refuse a walk-in bid.
     if (!checkWalkinCodes(bid.walkinClientId, bid.pCode, message)) return refusal(message);
   } else {
     const std::string& code = f.clientCode.text;
@@ -77,6 +77,8 @@ Verdict fillBidPrice(const OrderEntryFields& f, const sOFSCol& issue, sOFSPlaceO
   // Already refused at the top; kept as the record's own guard.
   if (quantity.empty()) return refusal("Please enter some quantity");
   const PriceBand band = splitPriceRange(f.priceRange);
+  bid.floorPrice = band.floor;
+  bid.ceilingPrice = band.ceiling;
   bid.priceRange = f.priceRange;
   if (auto v = checkCeiling(price, band.ceiling)) return v;
   if (auto v = checkAmount(series, price, cutOff, quantity, band.ceiling, issue)) return v;
@@ -110,8 +112,6 @@ Verdict checkNewBid(const OrderEntryFields& fields, const SubmitContext& context
   bid.series = seriesOfSymbol(fields.ofsId.text);
   bid.orderType = fields.orderType.selected;
   bid.category = fields.clientCategory.selected;
-  bid.floorPrice = splitPriceRange(fields.priceRange).floor;
-  bid.ceilingPrice = splitPriceRange(fields.priceRange).ceiling;
   bid.cutOffBox = fields.cutOff ? "Y" : "N";
   // The screen's "Y"/"N" goes to a field of its own: as the market flag every walk-in bid would
   // go out at market price.

@@ -78,16 +78,24 @@ void COrderEntryDlg::openForModification(const sOFSOrderInfo& order, const sOFSC
   setMode(true);
   loadIssue(issue);
   order_ = order;
-  OrderEntryFields& f = fields_;
-  f.ofsId.text = order.symbol;
+  fields_.ofsId.text = order.symbol;
   series_ = seriesOfSymbol(order.symbol);
-  f.orderType.selected = defaultOrderType(series_);
+  fields_.orderType.selected = defaultOrderType(series_);
   if (issue.exchange == "nse_ipo" && order.priceType == "MKT") {
-    f.price = {"MKT", false, true};
+    fields_.price = {"MKT", false, true};
   } else {
-    f.price = {fixedText(leadingDouble(order.price) / 100, 2), true, true};
+    fields_.price = {fixedText(leadingDouble(order.price) / 100, 2), true, true};
   }
-  f.quantity.text = order.quantity;
+  fields_.quantity.text = order.quantity;
+  showOrderClient(order);
+  rebuildChoiceLists();
+  pick(fields_.margin, order.margin);
+  notifyAll();
+}
+
+// A modification keeps the order's client: its fields show it and cannot be changed.
+void COrderEntryDlg::showOrderClient(const sOFSOrderInfo& order) {
+  OrderEntryFields& f = fields_;
   const bool walkin = order.clientId.empty();
   f.clientType.selected = clientTypeOf(order);
   f.clientType.enabled = false;
@@ -97,11 +105,9 @@ void COrderEntryDlg::openForModification(const sOFSOrderInfo& order, const sOFSC
   f.walkinParticipantCode = {walkin ? order.pCode : "", true, walkin};
   accountPCode_ = order.pCode;
   f.participantCode = {{}, {}, false};
-  if (!walkin && !order.pCode.empty()) f.participantCode.items = {order.pCode};
-  if (!walkin) f.participantCode.selected = order.pCode;
-  rebuildChoiceLists();
-  pick(f.margin, order.margin);
-  notifyAll();
+  if (walkin) return;
+  if (!order.pCode.empty()) f.participantCode.items = {order.pCode};
+  f.participantCode.selected = order.pCode;
 }
 
 void COrderEntryDlg::setMode(bool modifying) {

@@ -78,6 +78,7 @@ class COrderEntryDlg {
   enum class Change { Fields, Choices, Heading };
 
   void loadIssue(const sOFSCol& issue);
+  void showOrderClient(const sOFSOrderInfo& order);
   void setMode(bool modifying);
   void submitNewBid();
   void submitModification();
