@@ -37,7 +37,7 @@ void QtSimBackend::request(int, const otp_message& msg, IIrbeNotifier* notifier)
 }
 
 void QtSimBackend::subscribe(int, const KeyValues& keys, IIrbeNotifier* notifier) {
-  exchange_.subscribe(keys, notifier);
+  deliver(exchange_.subscribe(keys, notifier));
 }
 
 void QtSimBackend::deliver(sim::Deliveries deliveries) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/sim/market_depth.h"
 #include "host/sim/order_rows.h"
 #include "host/sim/sim_dates.h"
 #include "host/sim/sim_numbers.h"
@@ -60,8 +61,24 @@ Deliveries SimExchange::request(const otp_message& msg, IIrbeNotifier* asker) {
   return std::move(answers.deliveries());
 }
 
-void SimExchange::subscribe(const KeyValues& keys, IIrbeNotifier* to) {
+Deliveries SimExchange::subscribe(const KeyValues& keys, IIrbeNotifier* to) {
   subscriptions_.add(keys, to);
+  std::string exchange;
+  std::string symbol;
+  for (const auto& [key, value] : keys) {
+    if (key == 63001) exchange = value;
+    if (key == 10100) symbol = value;
+  }
+  const Issue* issue = findIssue(exchange, symbol);
+  if (!issue) return {};
+  return {Delivery{to, true, depthOf(*issue)}};
+}
+
+SimFields SimExchange::depthOf(const Issue& issue) const {
+  std::vector<const Order*> bids;
+  for (const Order& order : data_.orders)
+    if (order.issueId == issue.id() && order.isOpen()) bids.push_back(&order);
+  return depthRow(issue.exchange(), issue.get(10100), bids);
 }
 
 void SimExchange::forget(IIrbeNotifier* to) {
@@ -84,6 +101,12 @@ void SimExchange::setStatus(Order& order, const std::string& status, const std::
 
 void SimExchange::broadcast(const Order& order, Answers& answers) const {
   for (IIrbeNotifier* to : subscriptions_.covering(order)) answers.liveUpdate(to, orderRow(order));
+  // The bids changed: whoever watches the issue's depth sees it move.
+  auto issue = std::find_if(data_.issues.begin(), data_.issues.end(),
+                            [&](const Issue& i) { return i.id() == order.issueId; });
+  if (issue == data_.issues.end()) return;
+  for (IIrbeNotifier* to : subscriptions_.feedOf(issue->exchange(), issue->get(10100)))
+    answers.liveUpdate(to, depthOf(*issue));
 }
 
 int64_t SimExchange::today() const {

@@ -31,7 +31,9 @@ class SimExchange {
 
   // Everything the request brings about, in delivery order.
   Deliveries request(const otp_message& msg, IIrbeNotifier* asker);
-  void subscribe(const KeyValues& keys, IIrbeNotifier* to);
+  // A price-feed subscription of an issue (63001 and 10100) is answered at once with the
+  // issue's market depth, as a feed starts with a snapshot.
+  Deliveries subscribe(const KeyValues& keys, IIrbeNotifier* to);
   // A notifier that is gone hears nothing more.
   void forget(IIrbeNotifier* to);
 
@@ -71,6 +73,8 @@ class SimExchange {
   Order& record(Order order);
   void setStatus(Order& order, const std::string& status, const std::string& event = "");
   void broadcast(const Order& order, Answers& answers) const;
+  // The issue's market depth as it stands now.
+  SimFields depthOf(const Issue& issue) const;
 
   int64_t today() const;
   std::optional<Account> account(const std::string& id) const;

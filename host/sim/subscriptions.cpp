@@ -13,7 +13,9 @@ std::optional<std::string> key(const KeyValues& keys, uint32_t id) {
   return std::nullopt;
 }
 
+// A price feed (it names a symbol, 10100) carries market data, never orders.
 bool covers(const KeyValues& keys, const Order& order) {
+  if (key(keys, 10100)) return false;
   const auto exchange = key(keys, 63001);
   const auto account = key(keys, 54001);
   return exchange == order.exchange && (!account || account->empty() || *account == order.account);
@@ -38,6 +40,17 @@ std::vector<IIrbeNotifier*> Subscriptions::covering(const Order& order) const {
       result.push_back(e.to);
   }
   return result;
+}
+
+std::vector<IIrbeNotifier*> Subscriptions::feedOf(const std::string& exchange,
+                                                  const std::string& symbol) const {
+  std::vector<IIrbeNotifier*> out;
+  for (const Entry& e : entries_) {
+    if (key(e.keys, 63001) == exchange && key(e.keys, 10100) == symbol &&
+        std::find(out.begin(), out.end(), e.to) == out.end())
+      out.push_back(e.to);
+  }
+  return out;
 }
 
 }  // namespace sim

@@ -229,3 +229,28 @@ TEST(OrderChanges, HistoryListsEveryStateInOrder) {
 
 }  // namespace
 }  // namespace simtest
+
+namespace simtest {
+namespace {
+
+TEST(PriceFeed, StartsWithTheDepthAndFollowsEveryBidOfTheIssue) {
+  SimFixture f;
+  NullNotifier watcher;
+  const auto snapshot = f.exchange.subscribe({{63001, "nse_ipo"}, {10100, "ABC-RS"}}, &watcher);
+  ASSERT_EQ(snapshot.size(), 1u);
+  EXPECT_TRUE(snapshot[0].live);
+  EXPECT_EQ(value(snapshot[0], 10100), "ABC-RS");
+  const std::string before = value(snapshot[0], 54283);
+
+  const auto out = f.ask("om_put_order_ofs", placement({}));
+  std::vector<sim::Delivery> toWatcher;
+  for (const auto& d : out)
+    if (d.to == &watcher) toWatcher.push_back(d);
+  ASSERT_EQ(toWatcher.size(), 2u);  // "open pending", then "open": the depth after each
+  EXPECT_NE(value(toWatcher.back(), 54283), before);
+
+  EXPECT_TRUE(f.exchange.subscribe({{63001, "nse_cm"}, {10100, "ABC"}}, &watcher).empty());
+}
+
+}  // namespace
+}  // namespace simtest

@@ -32,6 +32,7 @@ INSTANTIATE_TEST_SUITE_P(
         CoverCase{"client_overview_of_the_account", {{54001, "A1"}, {63001, "nse_ipo"}}, true},
         CoverCase{"client_overview_of_another", {{54001, "A2"}, {63001, "nse_ipo"}}, false},
         CoverCase{"market_price", {{63001, "nse_cm"}, {10100, "ABC"}}, false},
+        CoverCase{"issue_price_feed", {{63001, "nse_ipo"}, {10100, "ABC-RS"}}, false},
         CoverCase{"without_exchange", {{31003, "U1"}}, false}),
     [](const auto& info) { return std::string(info.param.name); });
 
