@@ -24,7 +24,8 @@ inline char* putVarint(char* p, uint32_t v) {
   return p;
 }
 
-// Reads a varint of at most 5 bytes that fits in 32 bits; false when truncated or too long.
+// Reads a varint of at most 5 bytes that fits in 32 bits; false when truncated, too long or
+// not in its shortest form, so that every message has exactly one encoding.
 inline bool getVarint(const unsigned char*& p, const unsigned char* end, uint32_t& out) {
   uint64_t v = 0;
   for (int shift = 0; shift < 35; shift += 7) {
@@ -32,7 +33,7 @@ inline bool getVarint(const unsigned char*& p, const unsigned char* end, uint32_
     unsigned char b = *p++;
     v |= static_cast<uint64_t>(b & 0x7F) << shift;
     if ((b & 0x80) == 0) {
-      if (v > UINT32_MAX) return false;
+      if (v > UINT32_MAX || (b == 0 && shift > 0)) return false;
       out = static_cast<uint32_t>(v);
       return true;
     }

@@ -140,7 +140,8 @@ INSTANTIATE_TEST_SUITE_P(
                     MalformedCase{"length_past_end", std::string("\x01\x01\x05"
                                                                  "abc",
                                                                  6)},
-                    MalformedCase{"truncated_length", std::string("\x01\x01\x80", 3)}),
+                    MalformedCase{"truncated_length", std::string("\x01\x01\x80", 3)},
+                    MalformedCase{"overlong_id", std::string("\x81\x00\x01\x00", 4)}),
     [](const auto& info) { return info.param.name; });
 
 TEST(WireRender, SendLineQuotesAndEscapes) {
