@@ -148,6 +148,23 @@ void BM_LiveOrderUpdate(benchmark::State& state) {
 }
 BENCHMARK(BM_LiveOrderUpdate)->Arg(1'000)->Arg(1'000'000);
 
+// The lists alone: a random listed order moves to the top of the other list.
+void BM_BookListMove(benchmark::State& state) {
+  std::vector<sOFSOrderInfo> orders(static_cast<size_t>(state.range(0)));
+  OrderBookLists book;
+  std::vector<sOFSOrderInfo*> all;
+  for (sOFSOrderInfo& order : orders) all.push_back(&order);
+  book.open.reset(all);
+  std::mt19937 random(7);
+  for (auto _ : state) {
+    sOFSOrderInfo* order = &orders[random() % orders.size()];
+    bool open = book.open.contains(order);
+    (open ? book.open : book.closed).remove(order);
+    (open ? book.closed : book.open).insertTop(order);
+  }
+}
+BENCHMARK(BM_BookListMove)->Arg(1'000)->Arg(1'000'000);
+
 }  // namespace
 
 BENCHMARK_MAIN();

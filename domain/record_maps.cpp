@@ -7,12 +7,22 @@ void OFSRecords::clear() {
   issues.clear();
   issuesById.clear();
   orders.clear();
+  orderArrivals.clear();
   placedOrders.clear();
   filteredOrders.clear();
   assets.clear();
   categories.clear();
   issueSymbols.clear();
   placedOrderNumbers.clear();
+}
+
+std::pair<sOFSOrderInfo*, bool> findOrAddOrder(OFSRecords& records, const std::string& number) {
+  auto [it, created] = records.orders.try_emplace(number);
+  if (created) {
+    it->second = std::make_unique<sOFSOrderInfo>();
+    records.orderArrivals.push_back(it->second.get());
+  }
+  return {it->second.get(), created};
 }
 
 std::string assetKey(const sOFSCol& issue) {

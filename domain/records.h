@@ -118,7 +118,11 @@ struct sOFSOrderInfo {
   int32_t issueMinQuantity = 0;
   int32_t issueLotSize = 0;
 
-  // Kept by the order book's lists (open, closed): where each last put this order. Lets a
-  // live update find the order's line without a search.
-  std::array<uint32_t, 2> bookSlot{UINT32_MAX, UINT32_MAX};
+  // Kept by the order book's lists (open, closed): where each holds this order, so that a live
+  // update finds the order's line without a search. Valid only for the list's generation.
+  struct BookLine {
+    uint32_t slot = UINT32_MAX;
+    uint32_t generation = 0;
+  };
+  std::array<BookLine, 2> bookLine{};
 };

@@ -7,10 +7,8 @@ void handleReportedOrderRow(DispatchContext& context, const MessageView& row) {
   std::string orderNo;
   if (!row.text(64001, 0, orderNo) || !row.has(63100)) return;
   // A reply only adds orders it does not know; changes come by live update.
-  auto [it, created] = context.records().orders.try_emplace(orderNo);
-  if (!created) return;
-  it->second = std::make_unique<sOFSOrderInfo>();
-  fillReportedOrder(row, *it->second);
+  auto [order, created] = findOrAddOrder(context.records(), orderNo);
+  if (created) fillReportedOrder(row, *order);
 }
 
 void handleFilteredOrderRow(DispatchContext& context, const MessageView& row) {

@@ -64,8 +64,7 @@ void addIssueEnded(DispatchContext& context, const MessageView& end, const std::
 
 void handleReplyEnd(DispatchContext& context, const MessageView& end, const std::string& name) {
   if (name == "om_add_ofs_issue") return addIssueEnded(context, end, name);
-  if (name == "om_order_report_ofs")
-    rebuildOrderBook(context.records().orders, context.orderBook());
+  if (name == "om_order_report_ofs") rebuildOrderBook(context.records(), context.orderBook());
   if (name == "om_get_order_history_ofs") context.historyReplyEnded();
   std::string code;
   if (readErrorCode(end, code))

@@ -8,12 +8,11 @@ constexpr size_t kMinCapacity = 64;
 
 }  // namespace
 
-// A record's slot number may be stale (it left the list, or the list was reset): it counts
-// only while that slot still holds the record.
+// A line of an earlier generation was forgotten by a reset; a deleted line has no slot.
 std::optional<size_t> BookList::slotOf(const sOFSOrderInfo* order) const {
-  size_t slot = order->bookSlot[which_];
-  if (slot >= slots_.size() || slots_[slot] != order) return std::nullopt;
-  return slot;
+  const sOFSOrderInfo::BookLine& line = order->bookLine[which_];
+  if (line.generation != generation_ || line.slot == UINT32_MAX) return std::nullopt;
+  return line.slot;
 }
 
 sOFSOrderInfo* BookList::rowAt(size_t row) const {
@@ -39,11 +38,12 @@ void BookList::insertTop(sOFSOrderInfo* order) {
   if (listener_) listener_->afterInsert();
 }
 
-void BookList::remove(const sOFSOrderInfo* order) {
+void BookList::remove(sOFSOrderInfo* order) {
   std::optional<size_t> slot = slotOf(order);
   if (!slot) return;
   if (listener_) listener_->beforeRemove(count_ - live_.countThrough(*slot));
   slots_[*slot] = nullptr;
+  order->bookLine[which_].slot = UINT32_MAX;
   live_.unset(*slot);
   --count_;
   if (listener_) listener_->afterRemove();
@@ -56,6 +56,7 @@ void BookList::repaint(const sOFSOrderInfo* order) {
 
 void BookList::reset(const std::vector<sOFSOrderInfo*>& insertionOrder) {
   if (listener_) listener_->beforeReset();
+  ++generation_;
   slots_ = insertionOrder;
   count_ = slots_.size();
   compact(std::max(kMinCapacity, 2 * count_));

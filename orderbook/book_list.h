@@ -28,7 +28,7 @@ class BookListListener {
 
 class BookList {
  public:
-  // `which` picks the record's bookSlot entry this list keeps: each list of a book its own.
+  // `which` picks the record's bookLine entry this list keeps: each list of a book its own.
   explicit BookList(size_t which) : which_(which) {}
   void setListener(BookListListener* listener) { listener_ = listener; }
 
@@ -41,7 +41,7 @@ class BookList {
   // Puts a record that is not yet listed on a new top line.
   void insertTop(sOFSOrderInfo* order);
   // Deletes the record's line; nothing when it has none.
-  void remove(const sOFSOrderInfo* order);
+  void remove(sOFSOrderInfo* order);
   // Tells the listener that the record's line shows new values.
   void repaint(const sOFSOrderInfo* order);
   // Replaces every line: each record is put on top in turn, so the last is the top line.
@@ -53,11 +53,12 @@ class BookList {
   void makeRoom();
   void compact(size_t capacity);
   void place(sOFSOrderInfo* order, size_t slot) {
-    order->bookSlot[which_] = static_cast<uint32_t>(slot);
+    order->bookLine[which_] = {static_cast<uint32_t>(slot), generation_};
   }
 
   std::vector<sOFSOrderInfo*> slots_;  // in insertion order; null where a line was deleted
   size_t which_;
+  uint32_t generation_ = 1;  // a reset forgets every line without touching the records
   LiveSlots live_;
   size_t count_ = 0;
   BookListListener* listener_ = nullptr;

@@ -47,12 +47,13 @@ bool numberedBefore(const SortEntry& a, const SortEntry& b) {
   return a.order->ofsOrderNo < b.order->ofsOrderNo;
 }
 
-std::vector<SortEntry> sortedByNumber(const RecordMap<sOFSOrderInfo>& orders) {
+// Walks the orders in order of arrival, the order they lie in memory.
+std::vector<SortEntry> sortedByNumber(const std::vector<sOFSOrderInfo*>& orders) {
   std::vector<SortEntry> entries;
   entries.reserve(orders.size());
-  for (const auto& [number, order] : orders) {
+  for (sOFSOrderInfo* order : orders) {
     const std::string& key = order->ofsOrderNo;
-    entries.push_back({bigEndianWord(key, 0), bigEndianWord(key, 8), order.get()});
+    entries.push_back({bigEndianWord(key, 0), bigEndianWord(key, 8), order});
   }
   std::sort(entries.begin(), entries.end(), numberedBefore);
   return entries;
@@ -68,22 +69,19 @@ bool isClosedStatus(const std::string& status) {
   return status == "cancelled" || status == "rejected" || status == "complete";
 }
 
-void applyOrderUpdate(RecordMap<sOFSOrderInfo>& orders, OrderBookLists& book,
-                      const MessageView& row) {
+void applyOrderUpdate(OFSRecords& records, OrderBookLists& book, const MessageView& row) {
   std::string orderNo;
   if (!row.text(64001, 0, orderNo)) return;
-  auto [it, created] = orders.try_emplace(orderNo);
-  if (created) it->second = std::make_unique<sOFSOrderInfo>();
-  sOFSOrderInfo& order = *it->second;
-  fillReportedOrder(row, order);
-  if (!created) return moveKnownOrder(order, book);
-  (isOpenStatus(order.status) ? book.open : book.closed).insertTop(&order);
+  auto [order, created] = findOrAddOrder(records, orderNo);
+  fillReportedOrder(row, *order);
+  if (!created) return moveKnownOrder(*order, book);
+  (isOpenStatus(order->status) ? book.open : book.closed).insertTop(order);
 }
 
-void rebuildOrderBook(const RecordMap<sOFSOrderInfo>& orders, OrderBookLists& book) {
+void rebuildOrderBook(const OFSRecords& records, OrderBookLists& book) {
   std::vector<sOFSOrderInfo*> open;
   std::vector<sOFSOrderInfo*> closed;
-  for (const SortEntry& entry : sortedByNumber(orders))
+  for (const SortEntry& entry : sortedByNumber(records.orderArrivals))
     (isOpenStatus(entry.order->status) ? open : closed).push_back(entry.order);
   book.open.reset(open);
   book.closed.reset(closed);

@@ -19,9 +19,8 @@ bool isClosedStatus(const std::string& status);
 
 // A live order update: refills a known order and moves it by its status, or creates a new one
 // on the top line of its list. A row without 64001 is ignored.
-void applyOrderUpdate(RecordMap<sOFSOrderInfo>& orders, OrderBookLists& book,
-                      const MessageView& row);
+void applyOrderUpdate(OFSRecords& records, OrderBookLists& book, const MessageView& row);
 
 // Both lists from the orders map: highest order number (compared byte-wise) on top; an order
 // whose status is not open in any way stands in the closed list.
-void rebuildOrderBook(const RecordMap<sOFSOrderInfo>& orders, OrderBookLists& book);
+void rebuildOrderBook(const OFSRecords& records, OrderBookLists& book);
