@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "host/sim/data_records.h"
-#include "host/sim/line_words.h"
+#include "host/script_line.h"
 
 namespace sim {
 
@@ -18,12 +18,9 @@ constexpr std::pair<const char*, Reader> kReaders[] = {
 };
 
 std::string readLine(const std::string& line, ExchangeData& data) {
-  auto words = splitWords(line);
+  // The terminal's own script words: blanks, double quotes, "#" comments.
+  auto words = splitScriptWords(line);
   if (!words) return "a quote is not closed";
-  // A word that starts with "#" begins a comment.
-  auto comment = std::find_if(words->begin(), words->end(),
-                              [](const std::string& w) { return w.starts_with('#'); });
-  words->erase(comment, words->end());
   if (words->empty()) return {};
   std::vector<std::pair<std::string, std::string>> pairs;
   for (size_t i = 1; i < words->size(); ++i) {
