@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QDialog>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPixmap>
@@ -103,7 +104,15 @@ void QtPlatform::createImageList() {
 void QtPlatform::reapplyFonts(int64_t fontStamp) {
   if (!frame_) return;
   frame_->setFont(QApplication::font());
-  frame_->setProperty("fontStamp", QVariant::fromValue<qlonglong>(fontStamp));
+  // Dialogs are windows of their own, so the frame's font does not reach them: each open one
+  // takes the font and the stamp itself, in this order.
+  for (const char* name :
+       {"OrderEntry", "BulkUpload", "IssueDetails", "ModifyPrice", "MarketDepth"}) {
+    auto* dialog = frame_->findChild<QDialog*>(name);
+    if (!dialog) continue;
+    dialog->setFont(QApplication::font());
+    dialog->setProperty("fontStamp", QVariant::fromValue<qlonglong>(fontStamp));
+  }
 }
 
 void QtPlatform::startDetached(std::function<void()> work) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QWidget>
+#include <vector>
 
 QWidget* QtPrompt::parentWindow() const {
   if (QWidget* active = QApplication::activeModalWidget()) return active;
@@ -37,19 +38,25 @@ std::string QtPrompt::chooseFile(bool saving, const std::string& suggestedName,
 }
 
 void QtPrompt::focus(const std::string& field) {
-  QWidget* window = QApplication::activeWindow();
-  if (!window) return;
+  // The screen that refused is the active window, or (when the platform keeps no active window)
+  // a visible one that has the field.
+  std::vector<QWidget*> windows;
+  if (QWidget* active = QApplication::activeWindow()) windows.push_back(active);
+  for (QWidget* w : QApplication::topLevelWidgets())
+    if (w->isVisible()) windows.push_back(w);
   const QString label = QString::fromStdString(field);
-  for (QLabel* l : window->findChildren<QLabel*>()) {
-    if (l->text() == label && l->buddy()) {
-      l->buddy()->setFocus();
-      return;
+  for (QWidget* window : windows) {
+    for (QLabel* l : window->findChildren<QLabel*>()) {
+      if (l->text() == label && l->buddy()) {
+        l->buddy()->setFocus();
+        return;
+      }
     }
-  }
-  for (QWidget* w : window->findChildren<QWidget*>()) {
-    if (w->accessibleName() == label) {
-      w->setFocus();
-      return;
+    for (QWidget* w : window->findChildren<QWidget*>()) {
+      if (w->accessibleName() == label) {
+        w->setFocus();
+        return;
+      }
     }
   }
 }
