@@ -47,15 +47,6 @@ TEST(ReportedOrders, ARepeatedRowKeepsTheOrderALiveUpdateChangesIt) {
   EXPECT_EQ(context.store.orders.size(), 1u);
 }
 
-TEST(FilteredOrders, EachRowReplacesTheRecordOfItsNumber) {
-  RecordingDispatchContext context;
-  context.respond({{32767, "om_filter_order_ofs"}, {64001, "17"}, {64655, "open"}});
-  context.respond({{32767, "om_filter_order_ofs"}, {64001, "17"}, {12008, "MKT"}});
-  const sOFSOrderInfo& order = *context.store.filteredOrders["17"];
-  EXPECT_EQ(order.status, "");
-  EXPECT_EQ(order.priceType, "MKT");
-}
-
 struct HistoryCase {
   const char* name;
   FieldList row;

@@ -7,6 +7,14 @@ namespace {
 const Lines kIssueListRequests{"send 2 om_get_ofs_issues 63001=\"nse_ipo\" 53065=\"A\"",
                                "send 2 om_get_ofs_issues 63001=\"bse_ipo\" 53065=\"A\""};
 
+// The closing message of a reply: its 32766 occurrences, then its 32760 occurrences.
+FieldList ending(const char* name, const Lines& status, const Lines& tags = {}) {
+  FieldList fields{{32767, name}};
+  for (const std::string& value : status) fields.push_back({32766, value});
+  for (const std::string& value : tags) fields.push_back({32760, value});
+  return fields;
+}
+
 struct EndCase {
   const char* name;
   FieldList end;
@@ -25,52 +33,45 @@ TEST_P(ReplyEnds, LogShowAndRequestAsTheEndSays) {
   EXPECT_EQ(context.channel.transcript, GetParam().sent);
 }
 
+const char* const kRefusal =
+    "log Error in response : om_add_ofs_issue . Error Code : E7 . Error Msg : Issue exists. "
+    "IssueId : I9";
+
 INSTANTIATE_TEST_SUITE_P(
     Messages, ReplyEnds,
     testing::Values(
         EndCase{"failed_reply_logs_code",
-                {{32767, "om_get_user_order_ofs"}, {32766, "E42"}, {32766, "no orders"}},
+                ending("om_get_user_order_ofs", {"E42", "no orders"}),
                 {"log Error in response : om_get_user_order_ofs . Error Code : E42"}},
-        EndCase{"successful_end_logs_nothing", {{32767, "om_get_ofs_issues"}, {32766, ""}}, {}},
+        EndCase{"successful_end_logs_nothing", ending("om_get_ofs_issues", {""}), {}},
         EndCase{"history_end_fills_details_then_logs",
-                {{32767, "om_get_order_history_ofs"}, {32766, "E1"}},
+                ending("om_get_order_history_ofs", {"E1"}),
                 {"history ended",
                  "log Error in response : om_get_order_history_ofs . Error Code : E1"}},
         EndCase{"issue_added",
-                {{32767, "om_add_ofs_issue"}, {32766, ""}, {32760, "I9"}, {32760, "Normal End"}},
+                ending("om_add_ofs_issue", {""}, {"I9", "Normal End"}),
                 {"watch refreshed", "issue dialog closed", "log OFS issue added successfully",
                  "msgbox OFS issue added successfully"},
                 kIssueListRequests},
         EndCase{
             "issue_modified",
-            {{32767, "om_add_ofs_issue"}, {32766, ""}, {32760, "I9"}, {32760, "Normal End"}},
+            ending("om_add_ofs_issue", {""}, {"I9", "Normal End"}),
             {"watch refreshed", "issue dialog closed", "log OFS issue modification is successful",
              "msgbox OFS issue modification is successful"},
             kIssueListRequests,
             false},
         EndCase{"upload_ended",
-                {{32767, "om_add_ofs_issue"}, {32766, ""}, {32760, "I9"}, {32760, "Upload End"}},
+                ending("om_add_ofs_issue", {""}, {"I9", "Upload End"}),
                 {"watch refreshed"},
                 kIssueListRequests},
         EndCase{"issue_refused_shows_error_text",
-                {{32767, "om_add_ofs_issue"},
-                 {32766, "E7"},
-                 {32766, "Issue exists"},
-                 {32760, "I9"},
-                 {32760, "Normal End"}},
-                {"msgbox Issue exists",
-                 "log Error in response : om_add_ofs_issue . Error Code : E7 . Error Msg : Issue "
-                 "exists. IssueId : I9"}},
+                ending("om_add_ofs_issue", {"E7", "Issue exists"}, {"I9", "Normal End"}),
+                {"msgbox Issue exists", kRefusal}},
         EndCase{"upload_refused_shows_no_box",
-                {{32767, "om_add_ofs_issue"},
-                 {32766, "E7"},
-                 {32766, "Issue exists"},
-                 {32760, "I9"},
-                 {32760, "Upload End"}},
-                {"log Error in response : om_add_ofs_issue . Error Code : E7 . Error Msg : Issue "
-                 "exists. IssueId : I9"}},
+                ending("om_add_ofs_issue", {"E7", "Issue exists"}, {"I9", "Upload End"}),
+                {kRefusal}},
         EndCase{"issue_refused_without_text_or_tag",
-                {{32767, "om_add_ofs_issue"}, {32766, "E7"}},
+                ending("om_add_ofs_issue", {"E7"}),
                 {"log Error in response : om_add_ofs_issue . Error Code : E7 . "}}),
     [](const auto& info) { return info.param.name; });
 
