@@ -20,6 +20,9 @@ Fn lookup(const SymbolLookup& module, const char* name) {
 
 void openMessaging(COFSControlBlock& block, PromptPort& prompt) {
   int err = 0;
+  // A second start opens them afresh; the first ones are given back rather than lost.
+  if (block.handle) otp_dtor_primecb(&block.handle, &err);
+  if (block.scratch) otp_close_scratch(&block.scratch, &err, 0);
   block.scratch = nullptr;
   if (!otp_open_scratch(&block.scratch, kScratchCapacity, &err)) {
     block.scratch = nullptr;

@@ -86,7 +86,10 @@ TEST_P(OrderRequests, SendTheFieldsInOrder) {
 template <typename Builder, typename... Args>
 std::function<int32_t(const OrderContext&)> with(Builder builder, sOFSPlaceOrder order,
                                                  Args... args) {
-  return [=](const OrderContext& c) mutable { return builder(c, order, args...); };
+  return [=](const OrderContext& c) {
+    sOFSPlaceOrder fresh = order;  // each run starts from the unchanged record
+    return builder(c, fresh, args...);
+  };
 }
 
 sOFSPlaceOrder market(sOFSPlaceOrder o) {
