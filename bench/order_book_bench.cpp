@@ -10,44 +10,11 @@
 
 #include "connectvorn/connectvorn.h"
 #include "messaging/response_dispatcher.h"
+#include "tests/support/standalone_context.h"
 
 namespace {
 
-class NoPrompt : public PromptPort {
- public:
-  void message(const std::string&) override {}
-  bool question(const std::string&) override { return true; }
-  std::string chooseFile(bool, const std::string&, const std::string&) override { return {}; }
-  void focus(const std::string&) override {}
-};
-
-// Records and lists only; every window and host hook does nothing.
-class BenchContext : public DispatchContext {
- public:
-  const OtpOps& otp() override { return connectvornOps(); }
-  OFSRecords& records() override { return store; }
-  OrderBookLists& orderBook() override { return book; }
-  MessageLayer& messageLayer() override { return layer; }
-  void tabbedLog(const std::string&) override {}
-  void messageBox(const std::string&) override {}
-  bool hasAddIssueRight() override { return true; }
-  std::string defaultPCode() override { return {}; }
-  void storePeerData(const std::string&) override {}
-  void issueAdded(sOFSCol&) override {}
-  void assetFirstShown(const std::string&, const std::string&) override {}
-  void refreshWatchView() override {}
-  bool endIssueDialog() override { return true; }
-  void historyRowAdded(std::unique_ptr<sOFSOrderInfo>) override {}
-  void historyReplyEnded() override {}
-  MarketDepthState* marketDepth() override { return nullptr; }
-  void marketDepthChanged() override {}
-  void handInstrumentToHost(const std::string&, const std::string&) override {}
-
-  OFSRecords store;
-  OrderBookLists book;
-  NoPrompt prompt;
-  MessageLayer layer{connectvornOps(), prompt};
-};
+using BenchContext = StandaloneContext;
 
 using Message = std::unique_ptr<otp_message>;
 

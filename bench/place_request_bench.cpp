@@ -4,16 +4,9 @@
 
 #include "connectvorn/connectvorn.h"
 #include "messaging/order_requests.h"
+#include "tests/support/standalone_context.h"
 
 namespace {
-
-class Prompt : public PromptPort {
- public:
-  void message(const std::string&) override {}
-  bool question(const std::string&) override { return true; }
-  std::string chooseFile(bool, const std::string&, const std::string&) override { return {}; }
-  void focus(const std::string&) override {}
-};
 
 class TakeBytes : public IIrbeRxControl {
  public:
@@ -44,7 +37,7 @@ sOFSPlaceOrder retailBid() {
 }
 
 void BM_FramePlaceRequest(benchmark::State& state) {
-  Prompt prompt;
+  SilentPrompt prompt;
   TakeBytes control;
   MessageLayer layer(connectvornOps(), prompt);
   otp_scratch_t scratch = nullptr;

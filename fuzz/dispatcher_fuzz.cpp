@@ -8,46 +8,17 @@
 
 #include "connectvorn/connectvorn.h"
 #include "messaging/response_dispatcher.h"
+#include "tests/support/standalone_context.h"
 
 namespace {
 
-class Silent : public PromptPort {
+// Alternates the add-issue right so that both sides of the right checks are reached.
+class Context : public StandaloneContext {
  public:
-  void message(const std::string&) override {}
-  bool question(const std::string&) override { return true; }
-  std::string chooseFile(bool, const std::string&, const std::string&) override { return {}; }
-  void focus(const std::string&) override {}
-};
-
-class Context : public DispatchContext {
- public:
-  Context() : layer_(connectvornOps(), prompt_) {}
-  const OtpOps& otp() override { return connectvornOps(); }
-  OFSRecords& records() override { return records_; }
-  OrderBookLists& orderBook() override { return book_; }
-  MessageLayer& messageLayer() override { return layer_; }
-  void tabbedLog(const std::string&) override {}
-  void messageBox(const std::string&) override {}
-  bool hasAddIssueRight() override { return adminRight_ = !adminRight_; }
-  std::string defaultPCode() override { return "PC"; }
-  void storePeerData(const std::string&) override {}
-  void issueAdded(sOFSCol&) override {}
-  void assetFirstShown(const std::string&, const std::string&) override {}
-  void refreshWatchView() override {}
-  bool endIssueDialog() override { return true; }
-  void historyRowAdded(std::unique_ptr<sOFSOrderInfo>) override {}
-  void historyReplyEnded() override {}
-  MarketDepthState* marketDepth() override { return &depth_; }
-  void marketDepthChanged() override {}
-  void handInstrumentToHost(const std::string&, const std::string&) override {}
-
- private:
-  Silent prompt_;
-  MessageLayer layer_;
-  OFSRecords records_;
-  OrderBookLists book_;
-  MarketDepthState depth_{"nse_ipo", "ABC-RS", "NA", {}, 0};
-  bool adminRight_ = false;
+  Context() {
+    depth = std::make_unique<MarketDepthState>(MarketDepthState{"nse_ipo", "ABC-RS", "NA", {}, 0});
+  }
+  bool hasAddIssueRight() override { return addIssueRight = !addIssueRight; }
 };
 
 // "32767=om_get_ofs_issues\n63032=I1\n..." into fields; a line without '=' is skipped.
