@@ -97,9 +97,11 @@ std::string ScriptRunner::execute(const std::vector<std::string>& w) {
     int number = 0;
     if (args.size() != 1 || !toInt(args[0], number)) return verb + " needs one number";
     if (verb == "command") return invokeOnWatchView("runCommand", number);
-    for (const HotkeyRegistration& h : hotkeys_) {
-      if (h.number != number) continue;
-      QMetaObject::invokeMethod(h.view, "onHostHotkey", Q_ARG(int, number));
+    // The newest live registration wins: a window that was closed and opened again
+    // registered anew.
+    for (auto h = hotkeys_.rbegin(); h != hotkeys_.rend(); ++h) {
+      if (h->number != number || !h->view) continue;
+      QMetaObject::invokeMethod(h->view, "onHostHotkey", Q_ARG(int, number));
       return {};
     }
     return {};  // a key nobody registered does nothing, as on a real keyboard
@@ -181,16 +183,44 @@ std::string ScriptRunner::invokeOnWatchView(const char* method, int number) {
 std::string ScriptRunner::select(const std::vector<std::string>& w) {
   if (w.empty()) return "select needs a list";
   const std::string& list = w[0];
+  const std::vector<std::string> keys(w.begin() + 1, w.end());
   if (list == "current" || list == "forthcoming" || list == "past") {
     QWidget* view = watchView();
     if (!view) return {};
-    QStringList keys;
-    for (size_t i = 1; i < w.size(); ++i) keys << QString::fromStdString(w[i]);
+    QStringList keyList;
+    for (const std::string& key : keys) keyList << QString::fromStdString(key);
     bool ok = false;
     QMetaObject::invokeMethod(view, "selectRows", Q_RETURN_ARG(bool, ok),
                               Q_ARG(QString, QString::fromStdString(list)),
-                              Q_ARG(QStringList, keys));
+                              Q_ARG(QStringList, keyList));
     return ok ? std::string() : "cannot select on " + list;
+  }
+  return selectInTable(list, keys);
+}
+
+// Any other list a screen names in "dumpLists" ("open", "completed", ...): its rows whose first
+// column is one of the keys, in the order of the keys.
+std::string ScriptRunner::selectInTable(const std::string& list,
+                                        const std::vector<std::string>& keys) {
+  const QString name = QString::fromStdString(list);
+  for (QWidget* screen : QApplication::allWidgets()) {
+    if (!screen->property("dumpLists").toStringList().contains(name)) continue;
+    auto* table = screen->findChild<QTableView*>(name);
+    if (!table) continue;
+    QAbstractItemModel* model = table->model();
+    table->clearSelection();
+    for (size_t k = 0; k < keys.size(); ++k) {
+      for (int row = 0; row < model->rowCount(); ++row) {
+        if (model->index(row, 0).data().toString().toStdString() != keys[k]) continue;
+        const QModelIndex index = model->index(row, 0);
+        table->selectionModel()->select(index,
+                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        if (k == 0) table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        break;
+      }
+    }
+    table->setFocus();
+    return {};
   }
   return "no open list \"" + list + "\"";
 }

@@ -1,6 +1,7 @@
 // Runs a terminal script against the loaded plug-in and writes the transcript.
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <string>
 #include <vector>
@@ -14,7 +15,7 @@ class QObject;
 class QWidget;
 
 struct HotkeyRegistration {
-  QObject* view;
+  QPointer<QObject> view;  // null once the registering window is gone
   std::string caption;
   int number;
   std::string name;
@@ -37,6 +38,7 @@ class ScriptRunner {
   std::string execute(const std::vector<std::string>& w);
   std::string deliver(const std::vector<std::string>& w, bool liveUpdate);
   std::string select(const std::vector<std::string>& w);
+  std::string selectInTable(const std::string& list, const std::vector<std::string>& keys);
   std::string dump(const std::vector<std::string>& w);
   void dumpDetails(QWidget& screen);
   std::string drive(const std::string& verb, const std::vector<std::string>& w);

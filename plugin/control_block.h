@@ -13,6 +13,7 @@
 #include "messaging/market_depth_state.h"
 #include "messaging/message_layer.h"
 #include "orderbook/order_book_lists.h"
+#include "plugin/client_overview.h"
 #include "plugin/host_service_table.h"
 #include "plugin/plugin_platform.h"
 #include "sdk/host_app.h"
@@ -61,6 +62,9 @@ class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
   std::function<bool()> onEndIssueDialog;
   // The host made another client active (empty: none); the order book filters to it.
   std::function<void(const std::string&)> onActiveClientChanged;
+
+  // Shared with the client subscription worker, which may outlive the block.
+  std::shared_ptr<SubscriptionGate> subscriptionGate = std::make_shared<SubscriptionGate>();
 
   // Subscribes the price feed of an instrument once; later calls do nothing.
   void ensurePriceFeed(const std::string& exchange, const std::string& symbol);

@@ -130,6 +130,7 @@ void initPlugin(PluginPlatform& platform, IVornHostApp* app, const std::string& 
 void exitPlugin(PluginPlatform& platform) {
   COFSControlBlock* block = controlBlock();
   if (!block) return;
+  block->subscriptionGate->close();
   platform.destroyDialogWindows();
   block->bookLists.open.clear();
   block->bookLists.closed.clear();

@@ -29,3 +29,10 @@ std::string watchPlacementPath(const std::string& firstArgument);
 // Organisation and application of the frame's docking layout.
 inline constexpr const char* kLayoutOrganisation = "Irbesys Technologies";
 inline constexpr const char* kLayoutApplication = "Vorn_Plugins_OFS";
+
+// Writes `key=value` into `[section]` of an ini file the way the platform's private-profile
+// write does: the value as it stands (no quoting), other sections and keys kept, the section
+// added at the end when missing. Written to a temporary file and renamed over the target.
+// False when the file cannot be written.
+bool writeProfileString(const std::string& path, const std::string& section, const std::string& key,
+                        const std::string& value);

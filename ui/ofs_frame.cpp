@@ -17,8 +17,6 @@ COFSFrame::COFSFrame(COFSControlBlock& block, QWidget* parent) : QMainWindow(par
   orderBook_->setWidget(new OrderBookWidget(block, orderBook_));
   addDockWidget(Qt::BottomDockWidgetArea, orderBook_);
   orderBook_->hide();
-  QSettings settings(kLayoutOrganisation, kLayoutApplication);
-  restoreState(settings.value("FrameLayout").toByteArray());
 }
 
 void COFSFrame::showOrderBook() {

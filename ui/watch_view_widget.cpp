@@ -2,8 +2,8 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QMdiSubWindow>
 #include <QMenu>
-#include <QSettings>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -77,7 +77,12 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
           [this](int index) { core_->setActiveTab(static_cast<WatchTab>(index)); });
   core_->setChangeListener([this](WatchTab tab, int row) {
     models_[static_cast<size_t>(tab)]->coreChanged(row);
-    if (row == 0) lists_[static_cast<size_t>(tab)]->scrollToTop();
+    if (row != 0) return;
+    // The new issue's row takes the focus; the selection stays as the user left it.
+    QTableView* list = lists_[static_cast<size_t>(tab)];
+    list->selectionModel()->setCurrentIndex(models_[static_cast<size_t>(tab)]->index(0, 0),
+                                            QItemSelectionModel::NoUpdate);
+    list->scrollToTop();
   });
   core_->setLauncher(this);
 }
@@ -160,8 +165,12 @@ void WatchViewWidget::runCommand(int command) {
 void WatchViewWidget::writePlacement() const {
   const QStringList arguments = QCoreApplication::arguments();
   if (arguments.isEmpty()) return;
-  const QWidget* frame = window();
+  // The view's parent frame stands in the host's document area as a sub-window; without one
+  // it is a window of its own.
+  const QWidget* frame = parentWidget();
   if (!frame) return;
+  if (auto* container = qobject_cast<const QMdiSubWindow*>(frame->parentWidget()))
+    frame = container;
   const QRect normal =
       frame->normalGeometry().isValid() ? frame->normalGeometry() : frame->geometry();
   WindowPlacement p;
@@ -170,10 +179,9 @@ void WatchViewWidget::writePlacement() const {
   p.bottom = normal.bottom() + 1;
   p.right = normal.right() + 1;
   p.showState = frame->isMaximized() ? 3 : frame->isMinimized() ? 2 : 1;
-  QSettings file(QString::fromStdString(watchPlacementPath(arguments.front().toStdString())),
-                 QSettings::IniFormat);
-  file.setValue(QString(kPlacementSection) + "/" + kPlacementKey,
-                QString::fromStdString(formatPlacement(p)));
+  // A failed write changes nothing else.
+  writeProfileString(watchPlacementPath(arguments.front().toStdString()), kPlacementSection,
+                     kPlacementKey, formatPlacement(p));
 }
 
 // Screens that arrive with later work answer false until they are wired here.

@@ -86,12 +86,27 @@ TEST(ClientOverviewWorker, PausesAfterEveryHundredthClient) {
   for (int i = 0; i < 250; ++i) clients.push_back("C" + std::to_string(i));
   std::vector<size_t> pausesAt;
   std::string logged;
+  SubscriptionGate gate;
   subscribeAssignedClients(
-      layer, clients, [&] { pausesAt.push_back(control.lines().size()); },
+      layer, clients, gate, [&] { pausesAt.push_back(control.lines().size()); },
       [&](const std::string& line) { logged = line; });
   EXPECT_EQ(control.lines().size(), 500u);
   EXPECT_EQ(pausesAt, (std::vector<size_t>{200, 400}));
   EXPECT_EQ(logged, "Subscribe on Client Overview done for: 250 client");
+}
+
+TEST(ClientOverviewWorker, StopsAtTheNextClientOnceShutdownClosesTheGate) {
+  FakeRxControl control(2, 1);
+  RecordingPrompt prompt;
+  MessageLayer layer(connectvornOps(), prompt);
+  layer.setControl(Control::First, &control);
+  StringList clients(250, "C");
+  SubscriptionGate gate;
+  std::string logged;
+  subscribeAssignedClients(
+      layer, clients, gate, [&] { gate.close(); }, [&](const std::string& line) { logged = line; });
+  EXPECT_EQ(control.lines().size(), 200u);
+  EXPECT_EQ(logged, "");
 }
 
 struct RefusalCase {

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+
 #include "plugin/settings_paths.h"
 
 namespace {
@@ -17,5 +20,43 @@ TEST(WatchPlacement, ListsTopBeforeLeftAndBottomBeforeRight) {
 TEST(WatchPlacement, SitsBesideTheExecutablesPathWithADoubledSeparator) {
   EXPECT_EQ(watchPlacementPath("/opt/vt/VornTrader"), "/opt/vt/VornTrader\\\\OFSSettings.ini");
 }
+
+}  // namespace
+
+namespace {
+
+struct ProfileCase {
+  const char* name;
+  std::string before;
+  std::string after;
+};
+
+class ProfileWrite : public testing::TestWithParam<ProfileCase> {};
+
+TEST_P(ProfileWrite, SetsTheKeyAndKeepsEverythingElse) {
+  const std::string path = testing::TempDir() + "/profile_" + GetParam().name + ".ini";
+  {
+    std::ofstream out(path, std::ios::trunc);
+    out << GetParam().before;
+  }
+  ASSERT_TRUE(writeProfileString(path, "DIALOG_POSITION", "OFSWatchView", "1,2,3"));
+  std::ifstream in(path);
+  const std::string written((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  EXPECT_EQ(written, GetParam().after);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, ProfileWrite,
+    testing::Values(ProfileCase{"new_file", "", "[DIALOG_POSITION]\nOFSWatchView=1,2,3\n"},
+                    ProfileCase{"replaces_the_key_whatever_its_case",
+                                "[Other]\na=1\n[dialog_position]\nofswatchview=old\nb=2\n",
+                                "[Other]\na=1\n[dialog_position]\nOFSWatchView=1,2,3\nb=2\n"},
+                    ProfileCase{"adds_to_its_section_before_the_next",
+                                "[DIALOG_POSITION]\nb=2\n\n[Other]\na=1\n",
+                                "[DIALOG_POSITION]\nb=2\nOFSWatchView=1,2,3\n\n[Other]\na=1\n"},
+                    ProfileCase{
+                        "same_key_in_another_section_untouched", "[Other]\nOFSWatchView=x\n",
+                        "[Other]\nOFSWatchView=x\n[DIALOG_POSITION]\nOFSWatchView=1,2,3\n"}),
+    [](const auto& info) { return info.param.name; });
 
 }  // namespace
