@@ -46,9 +46,16 @@ struct otp_message {
     uint32_t id;
     uint32_t offset;
     uint32_t length;
+    uint32_t next;  // 1 + the entry of the field's next occurrence; 0 for the last
   };
+  // A reader asks for dozens of fields of one message: an open-addressing table from field id
+  // to its first occurrence (1 + entry, 0 empty) makes each lookup a probe, not a scan.
+  void buildLookup();
+  uint32_t firstOf(uint32_t fieldId) const;
+
   std::string bytes_;
   std::vector<Entry> index_;
+  std::vector<uint32_t> slots_;
 };
 
 namespace otpx {

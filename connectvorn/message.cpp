@@ -19,9 +19,10 @@ std::unique_ptr<otp_message> otp_message::decode(std::string_view bytes, int* er
       if (err) *err = OTP_E_MALFORMED;
       return nullptr;
     }
-    msg->index_.push_back({id, static_cast<uint32_t>(p - begin), length});
+    msg->index_.push_back({id, static_cast<uint32_t>(p - begin), length, 0});
     p += length;
   }
+  msg->buildLookup();
   if (err) *err = OTP_OK;
   return msg;
 }
@@ -35,22 +36,50 @@ otpx::Field otp_message::fieldAt(size_t i) const {
   return {e.id, std::string_view(bytes_).substr(e.offset, e.length)};
 }
 
+namespace {
+
+size_t slotOf(uint32_t fieldId, size_t mask) {
+  return static_cast<size_t>((fieldId * 2654435761u) >> 7) & mask;
+}
+
+}  // namespace
+
+void otp_message::buildLookup() {
+  size_t size = 16;
+  while (size < 2 * index_.size()) size *= 2;
+  slots_.assign(size, 0);
+  const size_t mask = size - 1;
+  // From the last field to the first, so that each chain runs in message order.
+  for (size_t i = index_.size(); i-- > 0;) {
+    size_t slot = slotOf(index_[i].id, mask);
+    while (slots_[slot] != 0 && index_[slots_[slot] - 1].id != index_[i].id)
+      slot = (slot + 1) & mask;
+    index_[i].next = slots_[slot];
+    slots_[slot] = static_cast<uint32_t>(i + 1);
+  }
+}
+
+uint32_t otp_message::firstOf(uint32_t fieldId) const {
+  const size_t mask = slots_.size() - 1;
+  for (size_t slot = slotOf(fieldId, mask);; slot = (slot + 1) & mask) {
+    const uint32_t entry = slots_[slot];
+    if (entry == 0 || index_[entry - 1].id == fieldId) return entry;
+  }
+}
+
 uint32_t otp_message::occurrences(uint32_t fieldId) const {
   uint32_t n = 0;
-  for (const Entry& e : index_) n += e.id == fieldId;
+  for (uint32_t e = firstOf(fieldId); e != 0; e = index_[e - 1].next) ++n;
   return n;
 }
 
 bool otp_message::find(uint32_t fieldId, uint32_t occurrence, otp_value* value) const {
-  for (const Entry& e : index_) {
-    if (e.id != fieldId) continue;
-    if (occurrence-- == 0) {
-      value->data = bytes_.data() + e.offset;
-      value->len = e.length;
-      return true;
-    }
-  }
-  return false;
+  uint32_t e = firstOf(fieldId);
+  while (e != 0 && occurrence-- > 0) e = index_[e - 1].next;
+  if (e == 0) return false;
+  value->data = bytes_.data() + index_[e - 1].offset;
+  value->len = index_[e - 1].length;
+  return true;
 }
 
 extern "C" {

@@ -154,3 +154,31 @@ TEST(WireRender, SendLineQuotesAndEscapes) {
 }
 
 }  // namespace
+
+namespace {
+
+// Ids chosen to crowd the lookup table (many share a slot), repeated, in no order: every
+// occurrence must still come back in message order, as a plain scan would find it.
+TEST(WireLookup, AgreesWithAScanForCrowdedAndRepeatedIds) {
+  std::vector<std::string> values;
+  std::vector<otpx::Field> fields;
+  for (uint32_t i = 0; i < 300; ++i) values.push_back(std::to_string(i));
+  for (uint32_t i = 0; i < 300; ++i) fields.push_back({(i % 37) * 4096u + (i % 5), values[i]});
+  auto msg = otp_message::build(fields);
+  ASSERT_TRUE(msg);
+  for (uint32_t id = 0; id < 37 * 4096u + 5; id += 1) {
+    uint32_t occurrence = 0;
+    for (const otpx::Field& f : fields) {
+      if (f.id != id) continue;
+      otp_value v{};
+      ASSERT_TRUE(msg->find(id, occurrence, &v)) << id;
+      EXPECT_EQ(std::string_view(v.data, v.len), f.value);
+      ++occurrence;
+    }
+    EXPECT_EQ(msg->occurrences(id), occurrence) << id;
+    otp_value v{};
+    EXPECT_FALSE(msg->find(id, occurrence, &v));
+  }
+}
+
+}  // namespace
