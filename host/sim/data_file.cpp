@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <fstream>
 
-#include "host/sim/data_records.h"
 #include "host/script_line.h"
+#include "host/sim/data_records.h"
 
 namespace sim {
 
