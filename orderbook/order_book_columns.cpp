@@ -30,12 +30,6 @@ const std::array<const char*, kOrderBookColumnCount>& orderBookColumns() {
 
 namespace {
 
-std::string proCliText(const std::string& flag) {
-  if (flag == "F") return "PRO";
-  if (flag == "C") return "CLI";
-  return flag;
-}
-
 // Walk-in orders have no account: their walk-in client stands in the client column.
 const std::string& clientOf(const sOFSOrderInfo& o) {
   return o.clientId.empty() ? o.walkinClientId : o.clientId;
@@ -67,7 +61,7 @@ std::string orderBookColumnText(const sOFSOrderInfo& o, int column,
     case 7:
       return o.field50110;  // the order's date and time as the back end reports it
     case 8:
-      return proCliText(o.proCliFlag);
+      return o.proCliFlag;  // the record's letter, "C" or "F", as the history shows it
     case 9:
       return clientOf(o);
     case 10:
