@@ -4,19 +4,13 @@
 #include <string>
 
 #include "domain/date_text.h"
+#include "tests/support/local_time.h"
 
 namespace {
 
 // 5 Jan 2024 09:07:03 in the local zone, so that the texts do not depend on the zone.
 int32_t fifthOfJanuary() {
-  std::tm tm{};
-  tm.tm_year = 124;
-  tm.tm_mday = 5;
-  tm.tm_hour = 9;
-  tm.tm_min = 7;
-  tm.tm_sec = 3;
-  tm.tm_isdst = -1;
-  return static_cast<int32_t>(std::mktime(&tm));
+  return static_cast<int32_t>(localTime(5, 1, 2024, 9 * 3600 + 7 * 60 + 3));
 }
 
 TEST(DateText, EveryStyle) {

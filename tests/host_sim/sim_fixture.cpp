@@ -1,5 +1,7 @@
 #include "tests/host_sim/sim_fixture.h"
 
+#include "tests/support/local_time.h"
+
 #include <ctime>
 #include <sstream>
 #include <stdexcept>
@@ -32,14 +34,7 @@ order no=507 issue=B2 account=A2 qty=4 price=400.00
 )";
 
 int64_t fixedClock() {
-  std::tm tm{};
-  tm.tm_mday = 21;
-  tm.tm_mon = 10;
-  tm.tm_year = 126;
-  tm.tm_hour = 10;
-  tm.tm_min = 15;
-  tm.tm_isdst = -1;
-  return static_cast<int64_t>(std::mktime(&tm));
+  return localTime(21, 11, 2026, 10 * 3600 + 15 * 60);
 }
 
 namespace {

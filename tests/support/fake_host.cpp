@@ -175,12 +175,3 @@ void FakeHost::setRecoveryFiles(const std::string& userSettings, const std::stri
 IVornHostApp* FakeHost::app() {
   return &theApp;
 }
-
-int64_t localTime(int day, int month, int year, int seconds) {
-  std::tm tm{};
-  tm.tm_mday = day;
-  tm.tm_mon = month - 1;
-  tm.tm_year = year - 1900;
-  tm.tm_isdst = -1;
-  return static_cast<int64_t>(std::mktime(&tm)) + seconds;
-}

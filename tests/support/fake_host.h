@@ -12,6 +12,7 @@
 #include "issues/watch_view.h"
 #include "plugin/plugin_platform.h"
 #include "tests/support/fake_rx_control.h"
+#include "tests/support/local_time.h"
 #include "tests/support/recording_prompt.h"
 
 struct FakeHostState {
@@ -68,6 +69,3 @@ class FakeHost : public PluginPlatform, public SymbolLookup {
 
   std::vector<std::string> recoveryFiles;
 };
-
-// Local midnight of a day plus seconds, for the fake clock.
-int64_t localTime(int day, int month, int year, int seconds = 0);
