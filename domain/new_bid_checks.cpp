@@ -6,6 +6,10 @@
 #include "domain/prices.h"
 #include "domain/series.h"
 
+// One-letter flags are assigned as strings: gcc 12 at -O3 misreads a literal assignment as an
+// overlapping copy (-Wrestrict).
+using namespace std::string_literals;
+
 namespace {
 
 using namespace entry_label;
@@ -59,7 +63,7 @@ Verdict fillBidClient(const OrderEntryFields& f, const SubmitContext& c, sOFSPla
   bid.marginText = f.margin.selected;
   bid.margin = marginFlag(f.margin.selected);
   if (!checkProMargin(type, f.margin.selected, message)) return refusal(message);
-  bid.side = "B";
+  bid.side = "B"s;
   bid.clientType = type;
   bid.proCli = clientTypeCode(type);
   bid.exchange = f.exchange.text;
@@ -94,9 +98,9 @@ Verdict fillBidPrice(const OrderEntryFields& f, const sOFSCol& issue, sOFSPlaceO
           kPrice);
     }
   }
-  bid.priceType = cutOff ? "MKT" : "L";
+  bid.priceType = cutOff ? "MKT"s : "L"s;
   bid.price = cutOff ? band.ceiling : price;
-  bid.marketFlag = cutOff ? "Y" : "";
+  bid.marketFlag = cutOff ? "Y"s : ""s;
   return {};
 }
 
@@ -112,7 +116,7 @@ Verdict checkNewBid(const OrderEntryFields& fields, const SubmitContext& context
   bid.series = seriesOfSymbol(fields.ofsId.text);
   bid.orderType = fields.orderType.selected;
   bid.category = fields.clientCategory.selected;
-  bid.cutOffBox = fields.cutOff ? "Y" : "N";
+  bid.cutOffBox = fields.cutOff ? "Y"s : "N"s;
   // The screen's "Y"/"N" goes to a field of its own: as the market flag every walk-in bid would
   // go out at market price.
   bid.cutOffText = fields.cutOffFlag;
