@@ -5,8 +5,8 @@
 
 #include "domain/char_classes.h"
 #include "domain/number_text.h"
+#include "domain/prompt_port.h"
 #include "domain/refusal.h"
-#include "messaging/prompt_port.h"
 
 namespace {
 

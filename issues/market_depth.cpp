@@ -3,7 +3,6 @@
 #include <cstdio>
 
 #include "domain/exchange_names.h"
-#include "plugin/control_block.h"
 
 namespace {
 
@@ -26,21 +25,21 @@ void CMarketDepth::open(const sOFSCol& issue) {
   state->exchange = issue.exchange;
   state->symbol = issue.symbol;
   state->lastUpdate = "NA";
-  block_.marketDepthState = std::move(state);
-  block_.ensurePriceFeed(issue.exchange, issue.symbol);
+  port_.marketDepthState() = std::move(state);
+  port_.ensurePriceFeed(issue.exchange, issue.symbol);
 }
 
 void CMarketDepth::close() {
   // Only the window that opened the state may end it: another issue's window may own it now.
-  MarketDepthState* state = block_.marketDepthState.get();
+  MarketDepthState* state = port_.marketDepthState().get();
   if (state && state->exchange == exchange_ && state->symbol == symbol_)
-    block_.marketDepthState.reset();
+    port_.marketDepthState().reset();
   exchange_.clear();
   symbol_.clear();
 }
 
 bool CMarketDepth::isOpen() const {
-  const MarketDepthState* state = block_.marketDepthState.get();
+  const MarketDepthState* state = port_.marketDepthState().get();
   return state && !symbol_.empty() && state->exchange == exchange_ && state->symbol == symbol_;
 }
 
@@ -52,16 +51,16 @@ std::array<CMarketDepth::Level, 5> CMarketDepth::levels() const {
   std::array<Level, 5> out;
   if (!isOpen()) return out;
   for (size_t i = 0; i < out.size(); ++i) {
-    const MarketDepthLevel& level = block_.marketDepthState->levels[i];
+    const MarketDepthLevel& level = port_.marketDepthState()->levels[i];
     out[i] = {rupees(level.price), std::to_string(level.quantity), std::to_string(level.bids)};
   }
   return out;
 }
 
 std::string CMarketDepth::totalBidQuantity() const {
-  return isOpen() ? std::to_string(block_.marketDepthState->totalBidQuantity) : "0";
+  return isOpen() ? std::to_string(port_.marketDepthState()->totalBidQuantity) : "0";
 }
 
 std::string CMarketDepth::lastUpdate() const {
-  return isOpen() ? block_.marketDepthState->lastUpdate : "NA";
+  return isOpen() ? port_.marketDepthState()->lastUpdate : "NA";
 }

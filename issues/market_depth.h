@@ -6,12 +6,11 @@
 #include <string>
 
 #include "domain/records.h"
-
-class COFSControlBlock;
+#include "issues/issues_port.h"
 
 class CMarketDepth {
  public:
-  explicit CMarketDepth(COFSControlBlock& block) : block_(block) {}
+  explicit CMarketDepth(IssuesPort& port) : port_(port) {}
   ~CMarketDepth();
 
   // Shows the issue's depth and subscribes its price feed; the exchange fills it in.
@@ -30,7 +29,7 @@ class CMarketDepth {
   std::string lastUpdate() const;        // "NA" until the exchange says
 
  private:
-  COFSControlBlock& block_;
+  IssuesPort& port_;
   std::string symbol_;
   std::string exchange_;
 };

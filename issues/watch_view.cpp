@@ -4,8 +4,6 @@
 
 #include "issues/issue_date.h"
 #include "messaging/issue_admin_requests.h"
-#include "plugin/control_block.h"
-#include "plugin/plugin_identity.h"
 
 namespace {
 
@@ -22,28 +20,25 @@ std::string todayText(int64_t now) {
 
 }  // namespace
 
-CWatchView::CWatchView(COFSControlBlock& block) : block_(block) {
-  for (int i = 0; i < kControlCount; ++i) {
-    IIrbeRxControl* control = block.services.getRxControl
-                                  ? block.services.getRxControl(kControlKinds[i], &block)
-                                  : nullptr;
-    block.layer.setControl(static_cast<Control>(i), control);
-  }
-  block.watchView = this;
+CWatchView::CWatchView(IssuesPort& port) : port_(port) {
+  for (int i = 0; i < kControlCount; ++i)
+    port.messageLayer().setControl(static_cast<Control>(i), port.obtainRxControl(kControlKinds[i]));
+  port.attachWatchView(this);
 }
 
 CWatchView::~CWatchView() {
   for (int i = 0; i < kControlCount; ++i) {
-    IIrbeRxControl* control = block_.layer.control(static_cast<Control>(i));
-    block_.layer.setControl(static_cast<Control>(i), nullptr);
-    if (control && block_.services.destroyRxControl) block_.services.destroyRxControl(control);
+    MessageLayer& layer = port_.messageLayer();
+    IIrbeRxControl* control = layer.control(static_cast<Control>(i));
+    layer.setControl(static_cast<Control>(i), nullptr);
+    if (control) port_.releaseRxControl(control);
   }
-  if (block_.watchView == this) block_.watchView = nullptr;
+  if (port_.attachedWatchView() == this) port_.attachWatchView(nullptr);
 }
 
 WatchTab CWatchView::tabFor(const sOFSCol& issue) const {
   // Dates are compared as 32-bit times, as the list always has.
-  const auto today = static_cast<int32_t>(parseIssueDate(todayText(block_.platform.now())));
+  const auto today = static_cast<int32_t>(parseIssueDate(todayText(port_.now())));
   const auto open = static_cast<int32_t>(parseIssueDate(issue.field49165));
   const auto close = static_cast<int32_t>(parseIssueDate(issue.field79));
   if (open > today) return WatchTab::Forthcoming;
@@ -71,35 +66,33 @@ sOFSCol* CWatchView::selectedIssue() const {
 }
 
 std::vector<MenuEntry> CWatchView::contextMenu(WatchTab tab) const {
-  return watchContextMenu(tab, block_.hasRight(kAddIssueRight));
+  return watchContextMenu(tab, port_.hasAddIssueRight());
 }
 
 void CWatchView::registerHotkeys(void* window) const {
-  if (!block_.services.registerHotkey) return;
-  const bool mayAddIssues = block_.hasRight(kAddIssueRight);
+  const bool mayAddIssues = port_.hasAddIssueRight();
   for (const HotkeyRow& row : watchHotkeys()) {
     if (row.needsAddIssueRight && !mayAddIssues) continue;
-    block_.services.registerHotkey(window, row.caption, row.number, row.name, row.key,
-                                   kHotkeyOwner);
+    if (!port_.registerHotkey(window, row)) return;
   }
 }
 
 bool CWatchView::requireAddIssueRight() {
-  if (block_.hasRight(kAddIssueRight)) return true;
-  block_.platform.prompt().message("Add/Modify OFS Issue details has not been enabled");
+  if (port_.hasAddIssueRight()) return true;
+  port_.prompt().message("Add/Modify OFS Issue details has not been enabled");
   return false;
 }
 
 void CWatchView::cancelUnallottedOrders() {
   sOFSCol* issue = selectedIssue();
   if (!issue) {
-    block_.hostMessageBox("Please select an issue");
+    port_.hostMessageBox("Please select an issue");
     return;
   }
-  requestCancelUnallotted(block_.layer, issue->issueId, issue->exchange);
+  requestCancelUnallotted(port_.messageLayer(), issue->issueId, issue->exchange);
   const std::string text = "OFS Cancel Unalloted Orders Request sent for " + issue->issueId;
-  block_.log(text);
-  block_.hostMessageBox(text);
+  port_.log(text);
+  port_.hostMessageBox(text);
 }
 
 void CWatchView::runCommand(int command) {
@@ -108,7 +101,7 @@ void CWatchView::runCommand(int command) {
   const bool admin = command == kCmdUploadIssues || command == kCmdExportIssues ||
                      command == kCmdAllotmentNse || command == kCmdAllotmentBse ||
                      command == kCmdCancelUnallotted;
-  if (admin && !block_.hasRight(kAddIssueRight)) return;
+  if (admin && !port_.hasAddIssueRight()) return;
 
   sOFSCol* issue = selectedIssue();
   switch (command) {
@@ -118,7 +111,7 @@ void CWatchView::runCommand(int command) {
     case kCmdModifyIssue:
       if (!requireAddIssueRight()) return;
       if (!issue) {
-        block_.platform.prompt().message("Please select scrip for modification");
+        port_.prompt().message("Please select scrip for modification");
         return;
       }
       if (launcher_) launcher_->openIssueDetails(issue);
@@ -126,7 +119,7 @@ void CWatchView::runCommand(int command) {
     case kCmdOrderEntry:
       if (!issue) return;
       if (issue->biddingFlag == "N") {
-        block_.platform.prompt().message("Bid is Not Allowed For this Scrip");
+        port_.prompt().message("Bid is Not Allowed For this Scrip");
         return;
       }
       if (launcher_) launcher_->openOrderEntry(*issue);

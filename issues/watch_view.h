@@ -9,16 +9,15 @@
 #include <vector>
 
 #include "domain/records.h"
-#include "plugin/screen_launcher.h"
-#include "plugin/watch_menus.h"
-
-class COFSControlBlock;
+#include "issues/issues_port.h"
+#include "issues/screen_launcher.h"
+#include "issues/watch_menus.h"
 
 class CWatchView {
  public:
   // Obtains the five receive controls (kinds 2, 0, 2, 3, 1) and hands them to the message
   // layer; the destructor gives them back.
-  explicit CWatchView(COFSControlBlock& block);
+  explicit CWatchView(IssuesPort& port);
   ~CWatchView();
   CWatchView(const CWatchView&) = delete;
   CWatchView& operator=(const CWatchView&) = delete;
@@ -69,7 +68,7 @@ class CWatchView {
     if (changed_) changed_(tab, row);
   }
 
-  COFSControlBlock& block_;
+  IssuesPort& port_;
   std::array<std::deque<sOFSCol*>, 3> rows_;
   std::array<std::vector<int>, 3> selection_;
   std::vector<std::string> currentIds_;

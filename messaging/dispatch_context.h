@@ -5,10 +5,10 @@
 #include <memory>
 #include <string>
 
+#include "domain/order_book_lists.h"
 #include "domain/record_maps.h"
 #include "messaging/market_depth_state.h"
 #include "messaging/message_layer.h"
-#include "orderbook/order_book_lists.h"
 
 class DispatchContext {
  public:

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "messaging/dispatch_context.h"
+#include "messaging/field_readers.h"
 
 using RowHandler = void (*)(DispatchContext&, const MessageView&);
 
@@ -17,6 +18,9 @@ void handleCompanyIssueRow(DispatchContext& context, const MessageView& row);
 
 // order_rows.cpp
 void handleReportedOrderRow(DispatchContext& context, const MessageView& row);
+// A live order update: refills a known order and moves it by its status, or creates a new one
+// on the top line of its list. A row without 64001 is ignored.
+void handleOrderUpdate(DispatchContext& context, const MessageView& update);
 void handleFilteredOrderRow(DispatchContext& context, const MessageView& row);
 void handleHistoryRow(DispatchContext& context, const MessageView& row);
 void handlePeerDataRow(DispatchContext& context, const MessageView& row);

@@ -1,6 +1,6 @@
 // Rows of the issue list, the client categories and the company issue lookup.
-#include "domain/issue_fill.h"
 #include "messaging/dispatch_steps.h"
+#include "messaging/issue_fill.h"
 #include "messaging/query_requests.h"
 
 namespace {

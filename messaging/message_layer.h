@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "domain/prompt_port.h"
 #include "messaging/otp_ops.h"
-#include "messaging/prompt_port.h"
 #include "messaging/request.h"
 #include "sdk/rx_control.h"
 

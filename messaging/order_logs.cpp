@@ -1,8 +1,8 @@
 // Placement and modification answers: the placed-order record and the tabbed-log lines.
 #include "domain/exchange_names.h"
-#include "domain/placed_order_fill.h"
 #include "domain/prices.h"
 #include "messaging/dispatch_steps.h"
+#include "messaging/placed_order_fill.h"
 #include "messaging/text_format.h"
 
 namespace {

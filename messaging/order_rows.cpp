@@ -1,7 +1,7 @@
 // Rows that create order records: the order book replies, the filter and the history.
-#include "domain/order_fill.h"
 #include "messaging/dispatch_steps.h"
-#include "orderbook/history_row.h"
+#include "messaging/history_row.h"
+#include "messaging/order_fill.h"
 
 void handleReportedOrderRow(DispatchContext& context, const MessageView& row) {
   std::string orderNo;
@@ -9,6 +9,14 @@ void handleReportedOrderRow(DispatchContext& context, const MessageView& row) {
   // A reply only adds orders it does not know; changes come by live update.
   auto [order, created] = findOrAddOrder(context.records(), orderNo);
   if (created) fillReportedOrder(row, *order);
+}
+
+void handleOrderUpdate(DispatchContext& context, const MessageView& update) {
+  std::string orderNo;
+  if (!update.text(64001, 0, orderNo)) return;
+  auto [order, created] = findOrAddOrder(context.records(), orderNo);
+  fillReportedOrder(update, *order);
+  placeUpdatedOrder(*order, created, context.orderBook());
 }
 
 void handleFilteredOrderRow(DispatchContext& context, const MessageView& row) {

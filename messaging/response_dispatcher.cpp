@@ -31,7 +31,7 @@ constexpr RowRoute kRowRoutes[] = {
 
 void dispatchLiveUpdate(DispatchContext& context, otp_msg_t message) {
   MessageView update(context.otp(), message);
-  if (update.has(64001)) applyOrderUpdate(context.records(), context.orderBook(), update);
+  if (update.has(64001)) handleOrderUpdate(context, update);
   if (update.has(63001) && update.has(10100)) applyLiveMarketData(context, update);
 }
 

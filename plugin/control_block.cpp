@@ -78,6 +78,57 @@ void COFSControlBlock::hostMessageBox(const std::string& text) const {
   if (services.showMessageBox) services.showMessageBox(text);
 }
 
+OrderContext COFSControlBlock::orderContext() {
+  return OrderContext{layer, userId(), identities[1], services.getUuid, &placedOrderRecords()};
+}
+
+bool COFSControlBlock::isValidAccount(const std::string& account) const {
+  return !services.isValidAccount || services.isValidAccount(account) != 0;
+}
+
+std::vector<std::string> COFSControlBlock::userAccounts() const {
+  if (!services.loadClientIdCombo) return mappedAccounts;
+  StringList accounts;
+  services.loadClientIdCombo(accounts);
+  return accounts;
+}
+
+std::vector<std::string> COFSControlBlock::hostClientTypes() const {
+  StringList types;
+  if (services.loadProCliCombo) services.loadProCliCombo(types);
+  return types;
+}
+
+void COFSControlBlock::clientTypeChosen(const std::string& type) {
+  if (services.onSelChangeProCli) services.onSelChangeProCli(type);
+}
+
+std::string COFSControlBlock::participantCodeOf(const std::string& account) const {
+  std::string pCode;
+  if (services.getPCode && !services.getPCode(account, pCode)) pCode.clear();
+  return pCode;
+}
+
+const std::vector<std::string>* COFSControlBlock::clientCategoriesOf(
+    const std::string& category) const {
+  const auto it = recordMaps.categories.find(category);
+  return it == recordMaps.categories.end() ? nullptr : &it->second;
+}
+
+IIrbeRxControl* COFSControlBlock::obtainRxControl(int kind) {
+  return services.getRxControl ? services.getRxControl(kind, this) : nullptr;
+}
+
+void COFSControlBlock::releaseRxControl(IIrbeRxControl* control) {
+  if (services.destroyRxControl) services.destroyRxControl(control);
+}
+
+bool COFSControlBlock::registerHotkey(void* window, const HotkeyRow& row) {
+  if (!services.registerHotkey) return false;
+  services.registerHotkey(window, row.caption, row.number, row.name, row.key, kHotkeyOwner);
+  return true;
+}
+
 namespace {
 COFSControlBlock* theBlock = nullptr;
 }

@@ -8,11 +8,13 @@
 #include <set>
 #include <string>
 
+#include "domain/order_book_lists.h"
 #include "domain/record_maps.h"
+#include "issues/issues_port.h"
 #include "messaging/dispatch_context.h"
 #include "messaging/market_depth_state.h"
 #include "messaging/message_layer.h"
-#include "orderbook/order_book_lists.h"
+#include "orderentry/order_entry_port.h"
 #include "plugin/client_overview.h"
 #include "plugin/host_service_table.h"
 #include "plugin/plugin_platform.h"
@@ -21,7 +23,12 @@
 
 class CWatchView;
 
-class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
+// The screens reach the block through the ports their folders declare, the dispatcher through
+// its context.
+class COFSControlBlock final : public IIrbeNotifier,
+                               public OrderEntryPort,
+                               public IssuesPort,
+                               private DispatchContext {
  public:
   // Binds the host's services from `hostModule`.
   COFSControlBlock(const SymbolLookup& hostModule, PluginPlatform& platform);
@@ -50,8 +57,6 @@ class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
   CWatchView* watchView = nullptr;  // set while the watch view lives
   OFSRecords recordMaps;
   OrderBookLists bookLists;
-  // Present while the Market Depth window is open.
-  std::unique_ptr<MarketDepthState> marketDepthState;
 
   // The windows that follow what the dispatcher learns; each is empty while its window is
   // not there.
@@ -67,26 +72,27 @@ class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
   std::shared_ptr<SubscriptionGate> subscriptionGate = std::make_shared<SubscriptionGate>();
 
   // Subscribes the price feed of an instrument once; later calls do nothing.
-  void ensurePriceFeed(const std::string& exchange, const std::string& symbol);
+  void ensurePriceFeed(const std::string& exchange, const std::string& symbol) override;
 
   void OnLiveUpdate(otp_msg_t msg) override;
   void OnResponse(otp_msg_t msg) override;
 
   // Host services as the plug-in uses them; a missing service answers "no" or does nothing.
   bool hasRight(const std::string& rightName) const;
-  void log(const std::string& line) const;
-  void hostMessageBox(const std::string& text) const;
-  const std::string& userId() const { return identities[0]; }
+  void log(const std::string& line) const override;
+  void hostMessageBox(const std::string& text) const override;
+  const std::string& userId() const override { return identities[0]; }
+  int64_t now() const override { return platform.now(); }
+  MessageLayer& messageLayer() override { return layer; }
+  bool hasAddIssueRight() override;
 
  private:
   // DispatchContext
   const OtpOps& otp() override { return layer.ops(); }
   OFSRecords& records() override { return recordMaps; }
   OrderBookLists& orderBook() override { return bookLists; }
-  MessageLayer& messageLayer() override { return layer; }
   void tabbedLog(const std::string& line) override { log(line); }
   void messageBox(const std::string& text) override { platform.prompt().message(text); }
-  bool hasAddIssueRight() override;
   std::string defaultPCode() override { return identities[1]; }
   void storePeerData(const std::string& text) override { peerDataText = text; }
   void issueAdded(sOFSCol& issue) override;
@@ -95,11 +101,31 @@ class COFSControlBlock final : public IIrbeNotifier, private DispatchContext {
   bool endIssueDialog() override { return onEndIssueDialog ? onEndIssueDialog() : true; }
   void historyRowAdded(std::unique_ptr<sOFSOrderInfo> row) override;
   void historyReplyEnded() override;
-  MarketDepthState* marketDepth() override { return marketDepthState.get(); }
+  MarketDepthState* marketDepth() override { return marketDepth_.get(); }
   void marketDepthChanged() override;
   void handInstrumentToHost(const std::string& exchange, const std::string& symbol) override;
 
+  // OrderEntryPort
+  OrderContext orderContext() override;
+  bool isValidAccount(const std::string& account) const override;
+  std::vector<std::string> userAccounts() const override;
+  std::vector<std::string> hostClientTypes() const override;
+  void clientTypeChosen(const std::string& type) override;
+  std::string participantCodeOf(const std::string& account) const override;
+  const std::vector<std::string>* clientCategoriesOf(const std::string& category) const override;
+
+  // IssuesPort
+  IIrbeRxControl* obtainRxControl(int kind) override;
+  void releaseRxControl(IIrbeRxControl* control) override;
+  void attachWatchView(CWatchView* view) override { watchView = view; }
+  CWatchView* attachedWatchView() const override { return watchView; }
+  PromptPort& prompt() override { return platform.prompt(); }
+  bool registerHotkey(void* window, const HotkeyRow& row) override;
+  std::unique_ptr<MarketDepthState>& marketDepthState() override { return marketDepth_; }
+
   std::set<std::string> pricedInstruments_;
+  // Present while the Market Depth window is open.
+  std::unique_ptr<MarketDepthState> marketDepth_;
 };
 
 // The process-wide pointer: null before initialisation and after shutdown.

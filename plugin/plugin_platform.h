@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "messaging/prompt_port.h"
+#include "domain/prompt_port.h"
 #include "plugin/host_service_table.h"
 #include "sdk/host_app.h"
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "orderbook/book_list.h"
+#include "domain/book_list.h"
 
 class BookListModel : public QAbstractTableModel, private BookListListener {
   Q_OBJECT

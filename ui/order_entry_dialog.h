@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <memory>
 
-#include "domain/order_entry.h"
+#include "orderentry/order_entry.h"
 
 class COFSControlBlock;
 class PromptPort;

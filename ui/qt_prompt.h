@@ -1,7 +1,7 @@
 // Message boxes, Yes/No questions and file choosers as modal Qt dialogs.
 #pragma once
 
-#include "messaging/prompt_port.h"
+#include "domain/prompt_port.h"
 
 class QWidget;
 

@@ -57,7 +57,7 @@ TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
 
   depth.close();
   EXPECT_FALSE(depth.isOpen());
-  EXPECT_EQ(controlBlock()->marketDepthState, nullptr);
+  EXPECT_EQ(static_cast<IssuesPort&>(*controlBlock()).marketDepthState(), nullptr);
   controlBlock()->onMarketDepthChanged = nullptr;
 }
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "domain/order_entry.h"
+#include "orderentry/order_entry.h"
 #include "plugin/control_block.h"
 #include "tests/support/fake_host.h"
 

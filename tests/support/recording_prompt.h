@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "messaging/prompt_port.h"
+#include "domain/prompt_port.h"
 
 using Lines = std::vector<std::string>;
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "domain/order_entry_checks.h"
+#include "orderentry/order_entry_checks.h"
 
 inline Verdict refusal(std::string message, std::string focus = {}) {
   return Refusal{std::move(message), std::move(focus)};

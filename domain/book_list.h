@@ -8,8 +8,8 @@
 #include <optional>
 #include <vector>
 
+#include "domain/live_slots.h"
 #include "domain/records.h"
-#include "orderbook/live_slots.h"
 
 // Told of every change, before and after, so that a list model can follow.
 class BookListListener {

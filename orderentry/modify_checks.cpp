@@ -2,9 +2,9 @@
 #include "domain/client_rules.h"
 #include "domain/issue_terms.h"
 #include "domain/number_text.h"
-#include "domain/order_entry_steps.h"
 #include "domain/prices.h"
 #include "domain/series.h"
+#include "orderentry/order_entry_steps.h"
 
 namespace {
 

@@ -1,18 +1,14 @@
 #include "domain/client_rules.h"
-#include "domain/order_entry.h"
+#include "domain/prompt_port.h"
 #include "messaging/order_requests.h"
-#include "messaging/prompt_port.h"
-#include "plugin/control_block.h"
-#include "plugin/order_context.h"
+#include "orderentry/order_entry.h"
 
 namespace {
 
-SubmitContext submitContextOf(COFSControlBlock& block, const sOFSCol& issue) {
-  const pu_is_valid_account_fn isValid = block.services.isValidAccount;
-  // Without the host's account check every account passes.
-  return SubmitContext{
-      issue, block.platform.now(), block.userId(),
-      [isValid](const std::string& account) { return !isValid || isValid(account) != 0; }};
+SubmitContext submitContextOf(const OrderEntryPort& port, const sOFSCol& issue) {
+  return SubmitContext{issue, port.now(), port.userId(), [&port](const std::string& account) {
+                         return port.isValidAccount(account);
+                       }};
 }
 
 }  // namespace
@@ -35,8 +31,8 @@ bool COrderEntryDlg::refused(const Verdict& verdict) {
 
 void COrderEntryDlg::submitNewBid() {
   sOFSPlaceOrder bid;
-  if (refused(checkNewBid(fields_, submitContextOf(block_, *issue_), bid))) return;
-  const OrderContext context = orderContextOf(block_);
+  if (refused(checkNewBid(fields_, submitContextOf(port_, *issue_), bid))) return;
+  const OrderContext context = port_.orderContext();
   bid.reference = std::to_string(context.placedOrders->size() + 1);
   const bool walkin = fields_.clientType.selected == kWalkinClient;
   const int32_t result = walkin ? placeWalkinOrder(context, bid) : placeOfsOrder(context, bid);
@@ -45,8 +41,8 @@ void COrderEntryDlg::submitNewBid() {
 
 void COrderEntryDlg::submitModification() {
   Modification change{order_, {}, {}, false};
-  if (refused(checkModification(fields_, submitContextOf(block_, *issue_), change))) return;
-  const OrderContext context = orderContextOf(block_);
+  if (refused(checkModification(fields_, submitContextOf(port_, *issue_), change))) return;
+  const OrderContext context = port_.orderContext();
   bool sent = false;
   if (change.order.clientId.empty()) {
     modifyWalkinOrder(context, change.order, change.price, change.quantity,

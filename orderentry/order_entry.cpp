@@ -1,4 +1,4 @@
-#include "domain/order_entry.h"
+#include "orderentry/order_entry.h"
 
 #include <algorithm>
 
@@ -9,9 +9,6 @@
 #include "domain/issue_terms.h"
 #include "domain/number_text.h"
 #include "domain/series.h"
-#include "messaging/order_requests.h"
-#include "plugin/control_block.h"
-#include "plugin/order_context.h"
 
 namespace {
 
@@ -44,8 +41,8 @@ std::string clientTypeOf(const sOFSOrderInfo& order) {
 
 }  // namespace
 
-COrderEntryDlg::COrderEntryDlg(COFSControlBlock& block, PromptPort& prompt)
-    : block_(block), prompt_(prompt) {
+COrderEntryDlg::COrderEntryDlg(OrderEntryPort& port, PromptPort& prompt)
+    : port_(port), prompt_(prompt) {
   fields_.orderType.items = {kRetailOrder, kNonInstitutionalOrder, kInstitutionalOrder};
 }
 
@@ -71,6 +68,7 @@ void COrderEntryDlg::open(const sOFSCol& issue) {
   fields_.quantity.text.clear();
   fields_.clientType.enabled = true;
   clientTypeChanged();
+  rebuildCategories();
   notifyAll();
 }
 

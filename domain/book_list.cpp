@@ -1,4 +1,4 @@
-#include "orderbook/book_list.h"
+#include "domain/book_list.h"
 
 #include <algorithm>
 

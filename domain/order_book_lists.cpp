@@ -1,9 +1,7 @@
-#include "orderbook/order_book_lists.h"
+#include "domain/order_book_lists.h"
 
 #include <algorithm>
 #include <cstring>
-
-#include "domain/order_fill.h"
 
 namespace {
 
@@ -69,13 +67,9 @@ bool isClosedStatus(const std::string& status) {
   return status == "cancelled" || status == "rejected" || status == "complete";
 }
 
-void applyOrderUpdate(OFSRecords& records, OrderBookLists& book, const MessageView& row) {
-  std::string orderNo;
-  if (!row.text(64001, 0, orderNo)) return;
-  auto [order, created] = findOrAddOrder(records, orderNo);
-  fillReportedOrder(row, *order);
-  if (!created) return moveKnownOrder(*order, book);
-  (isOpenStatus(order->status) ? book.open : book.closed).insertTop(order);
+void placeUpdatedOrder(sOFSOrderInfo& order, bool created, OrderBookLists& book) {
+  if (!created) return moveKnownOrder(order, book);
+  (isOpenStatus(order.status) ? book.open : book.closed).insertTop(&order);
 }
 
 void rebuildOrderBook(const OFSRecords& records, OrderBookLists& book) {

@@ -1,4 +1,4 @@
-#include "domain/order_entry_steps.h"
+#include "orderentry/order_entry_steps.h"
 
 #include "domain/amount_rules.h"
 #include "domain/client_rules.h"

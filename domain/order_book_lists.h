@@ -3,9 +3,8 @@
 
 #include <string>
 
+#include "domain/book_list.h"
 #include "domain/record_maps.h"
-#include "messaging/field_readers.h"
-#include "orderbook/book_list.h"
 
 struct OrderBookLists {
   BookList open{0};    // "Open Orders"
@@ -17,9 +16,9 @@ bool isOpenStatus(const std::string& status);
 // "cancelled", "rejected" and "complete", compared exactly.
 bool isClosedStatus(const std::string& status);
 
-// A live order update: refills a known order and moves it by its status, or creates a new one
-// on the top line of its list. A row without 64001 is ignored.
-void applyOrderUpdate(OFSRecords& records, OrderBookLists& book, const MessageView& row);
+// An order a live update has just refilled: a new one goes on the top line of its list, a known
+// one is repainted or moved by its status.
+void placeUpdatedOrder(sOFSOrderInfo& order, bool created, OrderBookLists& book);
 
 // Both lists from the orders map: highest order number (compared byte-wise) on top; an order
 // whose status is not open in any way stands in the closed list.

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "orderbook/order_book_lists.h"
+#include "domain/order_book_lists.h"
 #include "tests/support/recording_dispatch_context.h"
 
 namespace {

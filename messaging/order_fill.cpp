@@ -1,6 +1,6 @@
-#include "domain/order_fill.h"
+#include "messaging/order_fill.h"
 
-#include "domain/field_table.h"
+#include "messaging/field_table.h"
 
 namespace {
 

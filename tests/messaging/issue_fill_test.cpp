@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "domain/issue_fill.h"
+#include "messaging/issue_fill.h"
 #include "tests/support/message_fixtures.h"
 
 namespace {

@@ -2,9 +2,9 @@
 #include "domain/exchange_names.h"
 #include "domain/issue_terms.h"
 #include "domain/number_text.h"
-#include "domain/order_entry_steps.h"
 #include "domain/prices.h"
 #include "domain/series.h"
+#include "orderentry/order_entry_steps.h"
 
 // One-letter flags are assigned as strings: gcc 12 at -O3 misreads a literal assignment as an
 // overlapping copy (-Wrestrict).

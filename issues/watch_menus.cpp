@@ -1,4 +1,4 @@
-#include "plugin/watch_menus.h"
+#include "issues/watch_menus.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <deque>
 #include <random>
 
-#include "orderbook/book_list.h"
+#include "domain/book_list.h"
 
 namespace {
 

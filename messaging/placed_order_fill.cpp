@@ -1,7 +1,7 @@
-#include "domain/placed_order_fill.h"
+#include "messaging/placed_order_fill.h"
 
-#include "domain/field_table.h"
-#include "domain/order_fill.h"
+#include "messaging/field_table.h"
+#include "messaging/order_fill.h"
 
 namespace {
 

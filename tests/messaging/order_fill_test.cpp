@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "domain/order_fill.h"
-#include "domain/placed_order_fill.h"
+#include "messaging/order_fill.h"
+#include "messaging/placed_order_fill.h"
 #include "tests/support/message_fixtures.h"
 
 namespace {

@@ -152,6 +152,20 @@ TEST_F(NewBid, ABseBidCarriesItsCategoryWhichTheResetClears) {
   EXPECT_EQ(dialog->fields().clientCategory.selected, "");
 }
 
+TEST_F(NewBid, TheNextBseBidMustChooseItsCategoryAgain) {
+  openBid(bseIssue("Retail"), kTwoAccounts);
+  dialog->setClientCode("A1");
+  dialog->submit();
+  ASSERT_EQ(sends().size(), 1u);
+  dialog->setClientCode("A2");
+  dialog->setQuantity("100");
+  dialog->setPrice("150");
+  prompt().clear();
+  dialog->submit();
+  EXPECT_EQ(prompt().messages(), Lines{"client category is not set for the selected AccountID"});
+  EXPECT_EQ(sends().size(), 1u);
+}
+
 TEST_F(NewBid, AWalkinCutOffBidGoesAtTheCeilingWithTheUsersPCode) {
   openBid(nseIssue());
   dialog->selectClientType("Walkin");

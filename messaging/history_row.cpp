@@ -1,11 +1,11 @@
-#include "orderbook/history_row.h"
+#include "messaging/history_row.h"
 
 #include <climits>
 #include <cstdlib>
 
 #include "domain/date_text.h"
-#include "domain/field_table.h"
-#include "domain/order_fill.h"
+#include "messaging/field_table.h"
+#include "messaging/order_fill.h"
 
 namespace {
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "domain/order_entry_checks.h"
-#include "domain/order_entry_fields.h"
 #include "domain/records.h"
+#include "orderentry/order_entry_checks.h"
+#include "orderentry/order_entry_fields.h"
+#include "orderentry/order_entry_port.h"
 
-class COFSControlBlock;
 class PromptPort;
 
 // The ordinary client type of the "Pro/Cli" list.
@@ -37,7 +37,7 @@ class COrderEntryDlg {
   // The name under which the client code field is registered with the host's client search.
   static constexpr char kClientSearchName[] = "Client_Search";
 
-  COrderEntryDlg(COFSControlBlock& block, PromptPort& prompt);
+  COrderEntryDlg(OrderEntryPort& port, PromptPort& prompt);
 
   void setListener(OrderEntryListener* listener) { listener_ = listener; }
 
@@ -94,13 +94,12 @@ class COrderEntryDlg {
   void rebuildChoiceLists();
   void rebuildCategories();
   void rebuildMargins();
-  std::vector<std::string> userAccounts() const;
   bool isBse() const;
 
   void notify(Change change);
   void notifyAll();
 
-  COFSControlBlock& block_;
+  OrderEntryPort& port_;
   PromptPort& prompt_;
   OrderEntryListener* listener_ = nullptr;
   OrderEntryFields fields_;

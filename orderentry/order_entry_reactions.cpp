@@ -1,27 +1,17 @@
 #include <algorithm>
 
 #include "domain/client_rules.h"
-#include "domain/order_entry.h"
+#include "domain/prompt_port.h"
 #include "domain/series.h"
-#include "messaging/prompt_port.h"
-#include "plugin/control_block.h"
+#include "orderentry/order_entry.h"
 
 bool COrderEntryDlg::isBse() const {
   return fields_.exchange.text == "BSEIPO";
 }
 
-std::vector<std::string> COrderEntryDlg::userAccounts() const {
-  if (!block_.services.loadClientIdCombo) return block_.mappedAccounts;
-  StringList accounts;
-  block_.services.loadClientIdCombo(accounts);
-  return accounts;
-}
-
 void COrderEntryDlg::fillClientTypes() {
   EntryChoice& list = fields_.clientType;
-  if (list.items.empty() && block_.services.loadProCliCombo) {
-    block_.services.loadProCliCombo(list.items);
-  }
+  if (list.items.empty()) list.items = port_.hostClientTypes();
   if (list.items.empty()) list.items = {kCliClient, kProClient};
   // The host knows its own client types; walk-in clients are this screen's.
   if (std::find(list.items.begin(), list.items.end(), kWalkinClient) == list.items.end()) {
@@ -35,7 +25,7 @@ void COrderEntryDlg::clientTypeChanged() {
   fields_.walkinParticipantCode.text.clear();
   fillClientTypes();
   const std::string& type = fields_.clientType.selected;
-  if (block_.services.onSelChangeProCli) block_.services.onSelChangeProCli(type);
+  port_.clientTypeChosen(type);
   showClientCodeFor(type);
   accountChosen();
 }
@@ -46,7 +36,7 @@ void COrderEntryDlg::showClientCodeFor(const std::string& type) {
   f.walkinClientCode = {{}, true, walkin};
   f.walkinParticipantCode = {{}, true, walkin};
   if (type == kProClient) {
-    f.clientCode = {block_.userId(), false, true};
+    f.clientCode = {port_.userId(), false, true};
     f.clientSearchEnabled = false;
     f.participantCode = {{}, {}, false};
   } else if (walkin) {
@@ -54,7 +44,7 @@ void COrderEntryDlg::showClientCodeFor(const std::string& type) {
     f.clientSearchEnabled = false;
     f.participantCode = {{}, {}, false};
   } else {
-    const std::vector<std::string> accounts = userAccounts();
+    const std::vector<std::string> accounts = port_.userAccounts();
     const bool single = accounts.size() == 1;
     f.clientCode = {single ? accounts.front() : std::string(), !single, true};
     f.clientSearchEnabled = !single;
@@ -64,12 +54,9 @@ void COrderEntryDlg::showClientCodeFor(const std::string& type) {
 
 void COrderEntryDlg::accountChosen() {
   OrderEntryFields& f = fields_;
-  std::string pCode;
   const bool walkin = f.clientType.selected == kWalkinClient;
-  if (!walkin && !f.clientCode.text.empty() && block_.services.getPCode &&
-      !block_.services.getPCode(f.clientCode.text, pCode)) {
-    pCode.clear();
-  }
+  std::string pCode;
+  if (!walkin && !f.clientCode.text.empty()) pCode = port_.participantCodeOf(f.clientCode.text);
   std::string message;
   const AccountVerdict verdict =
       checkAccountPCode(f.exchange.text, series_, f.orderType.selected, pCode, message);
@@ -79,7 +66,8 @@ void COrderEntryDlg::accountChosen() {
     accountPCode_.clear();
     return;
   }
-  if (verdict == AccountVerdict::ResetToInstitutional) f.orderType.selected = kInstitutionalOrder;
+  const bool orderTypeReset = verdict == AccountVerdict::ResetToInstitutional;
+  if (orderTypeReset) f.orderType.selected = kInstitutionalOrder;
   accountPCode_ = pCode;
   if (f.participantCode.enabled) {
     f.participantCode.items.clear();
@@ -87,7 +75,10 @@ void COrderEntryDlg::accountChosen() {
     f.participantCode.selected = pCode;
   }
   if (!isBse() && series_ == "IS") f.cutOffEnabled = false;
-  rebuildChoiceLists();
+  // The categories follow the series, order type and cut-off only: choosing another account
+  // must not pick one again after the reset that follows a sent bid.
+  if (orderTypeReset) rebuildCategories();
+  rebuildMargins();
 }
 
 void COrderEntryDlg::rebuildChoiceLists() {
@@ -99,10 +90,9 @@ void COrderEntryDlg::rebuildCategories() {
   EntryChoice& list = fields_.clientCategory;
   list = {{}, {}, isBse()};
   if (!isBse() || !issue_) return;
-  const auto& categories = block_.recordMaps.categories;
-  const auto it = categories.find(issue_->category);
-  if (it == categories.end()) return;
-  list.items = bseCategoryChoices(it->second, fields_.orderType.selected, series_, fields_.cutOff);
+  const std::vector<std::string>* categories = port_.clientCategoriesOf(issue_->category);
+  if (!categories) return;
+  list.items = bseCategoryChoices(*categories, fields_.orderType.selected, series_, fields_.cutOff);
   if (!list.items.empty()) list.selected = list.items.front();
 }
 

@@ -1,4 +1,4 @@
-#include "orderbook/live_slots.h"
+#include "domain/live_slots.h"
 
 #include <bit>
 

@@ -7,9 +7,9 @@
 #include <optional>
 #include <string>
 
-#include "domain/order_entry_fields.h"
 #include "domain/place_order.h"
 #include "domain/records.h"
+#include "orderentry/order_entry_fields.h"
 
 struct Refusal {
   std::string message;

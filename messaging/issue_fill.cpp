@@ -1,8 +1,8 @@
-#include "domain/issue_fill.h"
+#include "messaging/issue_fill.h"
 
 #include <cstdlib>
 
-#include "domain/field_table.h"
+#include "messaging/field_table.h"
 
 namespace {
 
