@@ -11,6 +11,7 @@
 
 #include "connectvorn/connectvorn.h"
 #include "host/backend.h"
+#include "host/command_line.h"
 #include "host/dialog_robot.h"
 #include "host/host_state.h"
 #include "host/main_window.h"
@@ -21,61 +22,6 @@
 #include "host/transcript.h"
 
 namespace {
-
-struct Options {
-  bool headless = false;
-  std::string script;
-  std::string trace;
-  std::string backend;
-  std::string plugin;
-  std::string config;
-  std::vector<std::vector<std::string>> hostSettings;  // from --user/--kind/--right/--account
-};
-
-const char* kUsage =
-    "usage: vorntrader [--headless --script FILE [--trace FILE]] [--backend sim|none]\n"
-    "                  [--plugin PATH] [--config FILE] [--user ID] [--kind N]\n"
-    "                  [--right NAME]... [--accounts A1:PC1,A2]\n"
-    "--config reads `host ...` lines (the script language's) before anything else.\n";
-
-bool parseOptions(int argc, char** argv, Options& o) {
-  for (int i = 1; i < argc; ++i) {
-    const std::string a = argv[i];
-    auto next = [&](std::string& out) {
-      if (i + 1 >= argc) return false;
-      out = argv[++i];
-      return true;
-    };
-    std::string value;
-    if (a == "--headless") {
-      o.headless = true;
-    } else if (a == "--script") {
-      if (!next(o.script)) return false;
-    } else if (a == "--trace") {
-      if (!next(o.trace)) return false;
-    } else if (a == "--backend") {
-      if (!next(o.backend) || (o.backend != "sim" && o.backend != "none")) return false;
-    } else if (a == "--plugin") {
-      if (!next(o.plugin)) return false;
-    } else if (a == "--config") {
-      if (!next(o.config)) return false;
-    } else if (a == "--user" && next(value)) {
-      o.hostSettings.push_back({"user", value, "kind", std::to_string(hostState().loginKind)});
-    } else if (a == "--kind" && next(value)) {
-      o.hostSettings.push_back({"user", hostState().user, "kind", value});
-    } else if (a == "--right" && next(value)) {
-      o.hostSettings.push_back({"right", value, "on"});
-    } else if (a == "--accounts" && next(value)) {
-      std::vector<std::string> words{"accounts"};
-      for (const QString& part : QString::fromStdString(value).split(',', Qt::SkipEmptyParts))
-        words.push_back(part.toStdString());
-      o.hostSettings.push_back(words);
-    } else {
-      return false;
-    }
-  }
-  return !o.headless || !o.script.empty();
-}
 
 bool readLines(const std::string& path, std::vector<std::string>& lines) {
   QFile file(QString::fromStdString(path));
@@ -111,13 +57,15 @@ bool applyConfig(const std::string& path) {
 
 int main(int argc, char** argv) {
   Options options;
-  if (!parseOptions(argc, argv, options)) {
-    std::cerr << kUsage;
-    return 2;
-  }
+  if (auto status = parseCommandLine(argc, argv, options, std::cout, std::cerr)) return *status;
   if (options.headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication app(argc, argv);
+  // Qt gets only its own options, so that it never reads ours as its own.
+  std::vector<char*> qtArgv{argv[0]};
+  for (std::string& argument : options.qtArguments) qtArgv.push_back(argument.data());
+  qtArgv.push_back(nullptr);
+  int qtArgc = static_cast<int>(qtArgv.size()) - 1;
+  QApplication app(qtArgc, qtArgv.data());
 
   if (!options.config.empty() && !applyConfig(options.config)) return 2;
   for (const auto& setting : options.hostSettings) {
