@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QTextStream>
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 
@@ -66,6 +67,9 @@ int main(int argc, char** argv) {
   qtArgv.push_back(nullptr);
   int qtArgc = static_cast<int>(qtArgv.size()) - 1;
   QApplication app(qtArgc, qtArgv.data());
+
+  hostState().usersRoot =
+      usersRoot(options.home, std::getenv("XDG_DATA_HOME"), std::getenv("HOME"));
 
   if (!options.config.empty() && !applyConfig(options.config)) return 2;
   for (const auto& setting : options.hostSettings) {

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "host/command_line.h"
+#include "host/host_state.h"
 
 namespace {
 
@@ -75,11 +76,17 @@ TEST(CommandLine, GoodLineKeepsHostSettingsInOrderAndHandsQtItsOwn) {
   EXPECT_EQ(o.qtArguments, (Words{"-platform", "offscreen", "-reverse"}));
 }
 
-TEST(UserDirectory, HomeThenXdgThenHomeVariable) {
+TEST(UserDirectory, HomeThenXdgThenHomeVariableThenTheUserInForce) {
   EXPECT_EQ(usersRoot("/h", "/x", "/u"), "/h");
   EXPECT_EQ(usersRoot("", "/x", "/u"), "/x/vorntrader");
   EXPECT_EQ(usersRoot("", "", "/u"), "/u/.local/share/vorntrader");
   EXPECT_EQ(usersRoot("", nullptr, nullptr), "");
+  HostState state;
+  state.usersRoot = "/r";
+  state.apply({"user", "U7"});
+  EXPECT_EQ(state.currentUserDirectory(), "/r/U7");
+  state.apply({"directory", "/mine"});
+  EXPECT_EQ(state.currentUserDirectory(), "/mine");
 }
 
 }  // namespace
