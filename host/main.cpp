@@ -24,6 +24,17 @@
 
 namespace {
 
+// A headless run is usually a test or CI job without a desktop session: the offscreen platform
+// warns for every window with size hints and Qt for the missing XDG_RUNTIME_DIR (it picks a
+// fallback itself). Neither says anything about the plug-in, so only those two are dropped.
+QtMessageHandler qtDefaultHandler = nullptr;
+void dropHeadlessNoise(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type == QtWarningMsg &&
+      (text.contains("propagateSizeHints") || text.contains("XDG_RUNTIME_DIR not set")))
+    return;
+  qtDefaultHandler(type, context, text);
+}
+
 bool readLines(const std::string& path, std::vector<std::string>& lines) {
   QFile file(QString::fromStdString(path));
   if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return false;
@@ -61,6 +72,7 @@ int main(int argc, char** argv) {
   if (auto status = parseCommandLine(argc, argv, options, std::cout, std::cerr)) return *status;
   if (options.headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (options.headless) qtDefaultHandler = qInstallMessageHandler(dropHeadlessNoise);
   // Qt gets only its own options, so that it never reads ours as its own.
   std::vector<char*> qtArgv{argv[0]};
   for (std::string& argument : options.qtArguments) qtArgv.push_back(argument.data());
