@@ -4,6 +4,7 @@
 #include <QMetaObject>
 #include <QThread>
 #include <ctime>
+#include <filesystem>
 
 #include "host/host_state.h"
 #include "host/rx_controls.h"
@@ -162,8 +163,13 @@ HOST_EXPORT int pu_get_find_menu_item_in_roles(const std::string&) {
 
 HOST_EXPORT int pu_get_UserDirectory(std::string& directory) {
   std::lock_guard lock(hostState().mutex);
-  directory = hostState().userDirectory;
-  return directory.empty() ? 0 : 1;
+  directory = hostState().currentUserDirectory();
+  if (directory.empty()) return 0;
+  // A directory that cannot be made is still handed over: the plug-in's writes then fail
+  // quietly, as they would on a full disk.
+  std::error_code ignored;
+  std::filesystem::create_directories(directory, ignored);
+  return 1;
 }
 
 HOST_EXPORT int pu_get_entered_text_results_from_clientsdb(const std::string& typed,

@@ -95,6 +95,11 @@ std::string HostState::apply(const std::vector<std::string>& w) {
   return "unknown host setting \"" + what + "\"";
 }
 
+std::string HostState::currentUserDirectory() const {
+  if (!userDirectory.empty() || usersRoot.empty()) return userDirectory;
+  return usersRoot + "/" + user;
+}
+
 HostState& hostState() {
   static HostState state;
   return state;

@@ -24,7 +24,8 @@ struct HostState {
   std::string peer2;
   bool clientOverview = false;
   std::vector<std::string> assignedClients;
-  std::string userDirectory;
+  std::string userDirectory;  // `host directory`: handed over as it is, for every user
+  std::string usersRoot;      // otherwise each user's directory is usersRoot/<user id>
   int uuidCounter = 0;
   std::mutex mutex;  // the subscription worker reads the state too
 
@@ -32,6 +33,8 @@ struct HostState {
   // A `host` line without its verb: "user U1 kind 3", "right \"X\" on", ... Empty on success,
   // otherwise what is wrong with it.
   std::string apply(const std::vector<std::string>& words);
+  // The directory of the user in force now; empty when there is none. The caller holds `mutex`.
+  std::string currentUserDirectory() const;
 
   // The host's tabbed log; the main window shows it, the headless runner writes it.
   std::function<void(const std::string&)> onLog;

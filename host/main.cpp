@@ -6,11 +6,13 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QTextStream>
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 
 #include "connectvorn/connectvorn.h"
 #include "host/backend.h"
+#include "host/command_line.h"
 #include "host/dialog_robot.h"
 #include "host/host_state.h"
 #include "host/main_window.h"
@@ -22,59 +24,15 @@
 
 namespace {
 
-struct Options {
-  bool headless = false;
-  std::string script;
-  std::string trace;
-  std::string backend;
-  std::string plugin;
-  std::string config;
-  std::vector<std::vector<std::string>> hostSettings;  // from --user/--kind/--right/--account
-};
-
-const char* kUsage =
-    "usage: vorntrader [--headless --script FILE [--trace FILE]] [--backend sim|none]\n"
-    "                  [--plugin PATH] [--config FILE] [--user ID] [--kind N]\n"
-    "                  [--right NAME]... [--accounts A1:PC1,A2]\n"
-    "--config reads `host ...` lines (the script language's) before anything else.\n";
-
-bool parseOptions(int argc, char** argv, Options& o) {
-  for (int i = 1; i < argc; ++i) {
-    const std::string a = argv[i];
-    auto next = [&](std::string& out) {
-      if (i + 1 >= argc) return false;
-      out = argv[++i];
-      return true;
-    };
-    std::string value;
-    if (a == "--headless") {
-      o.headless = true;
-    } else if (a == "--script") {
-      if (!next(o.script)) return false;
-    } else if (a == "--trace") {
-      if (!next(o.trace)) return false;
-    } else if (a == "--backend") {
-      if (!next(o.backend) || (o.backend != "sim" && o.backend != "none")) return false;
-    } else if (a == "--plugin") {
-      if (!next(o.plugin)) return false;
-    } else if (a == "--config") {
-      if (!next(o.config)) return false;
-    } else if (a == "--user" && next(value)) {
-      o.hostSettings.push_back({"user", value, "kind", std::to_string(hostState().loginKind)});
-    } else if (a == "--kind" && next(value)) {
-      o.hostSettings.push_back({"user", hostState().user, "kind", value});
-    } else if (a == "--right" && next(value)) {
-      o.hostSettings.push_back({"right", value, "on"});
-    } else if (a == "--accounts" && next(value)) {
-      std::vector<std::string> words{"accounts"};
-      for (const QString& part : QString::fromStdString(value).split(',', Qt::SkipEmptyParts))
-        words.push_back(part.toStdString());
-      o.hostSettings.push_back(words);
-    } else {
-      return false;
-    }
-  }
-  return !o.headless || !o.script.empty();
+// A headless run is usually a test or CI job without a desktop session: the offscreen platform
+// warns for every window with size hints and Qt for the missing XDG_RUNTIME_DIR (it picks a
+// fallback itself). Neither says anything about the plug-in, so only those two are dropped.
+QtMessageHandler qtDefaultHandler = nullptr;
+void dropHeadlessNoise(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type == QtWarningMsg &&
+      (text.contains("propagateSizeHints") || text.contains("XDG_RUNTIME_DIR not set")))
+    return;
+  qtDefaultHandler(type, context, text);
 }
 
 bool readLines(const std::string& path, std::vector<std::string>& lines) {
@@ -111,13 +69,19 @@ bool applyConfig(const std::string& path) {
 
 int main(int argc, char** argv) {
   Options options;
-  if (!parseOptions(argc, argv, options)) {
-    std::cerr << kUsage;
-    return 2;
-  }
+  if (auto status = parseCommandLine(argc, argv, options, std::cout, std::cerr)) return *status;
   if (options.headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication app(argc, argv);
+  if (options.headless) qtDefaultHandler = qInstallMessageHandler(dropHeadlessNoise);
+  // Qt gets only its own options, so that it never reads ours as its own.
+  std::vector<char*> qtArgv{argv[0]};
+  for (std::string& argument : options.qtArguments) qtArgv.push_back(argument.data());
+  qtArgv.push_back(nullptr);
+  int qtArgc = static_cast<int>(qtArgv.size()) - 1;
+  QApplication app(qtArgc, qtArgv.data());
+
+  hostState().usersRoot =
+      usersRoot(options.home, std::getenv("XDG_DATA_HOME"), std::getenv("HOME"));
 
   if (!options.config.empty() && !applyConfig(options.config)) return 2;
   for (const auto& setting : options.hostSettings) {

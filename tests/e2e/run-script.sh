@@ -11,14 +11,15 @@ backend=none
 if head -n 1 "$script" | grep -q '^# backend: sim'; then backend=sim; fi
 actual="$(mktemp)"
 trap 'rm -f "$actual"' EXIT
-# The terminal writes settings beside the path it was started by and under HOME: run it by a
-# link in a scratch directory so that nothing lands in the build tree or the user's home.
+# The terminal writes settings beside the path it was started by, under HOME and in the users'
+# directories: run it by a link in a scratch directory, with its homes there too, so that
+# nothing lands in the build tree, the user's home or the real XDG data folder.
 work="$(mktemp -d)"
 trap 'rm -f "$actual"; rm -rf "$work"' EXIT
 ln -s "$(readlink -f "$bin")" "$work/vorntrader"
-(cd "$work" && HOME="$work" XDG_CONFIG_HOME="$work/.config" XDG_RUNTIME_DIR="$work" \
-  ./vorntrader --headless --backend "$backend" --script "$script" --trace "$actual" \
-  2>"$work/stderr") || {
+(cd "$work" && HOME="$work" XDG_CONFIG_HOME="$work/.config" XDG_DATA_HOME="$work/.local/share" \
+  XDG_RUNTIME_DIR="$work" ./vorntrader --headless --backend "$backend" --script "$script" \
+  --trace "$actual" --home "$work/users" 2>"$work/stderr") || {
   status=$?
   echo "vorntrader exited with $status"; cat "$work/stderr"; exit 1
 }
