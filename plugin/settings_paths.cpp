@@ -6,6 +6,8 @@
 #include <fstream>
 #include <vector>
 
+#include "plugin/host_path.h"
+
 std::string formatPlacement(const WindowPlacement& p) {
   char buffer[128];
   std::snprintf(buffer, sizeof buffer, "%d,%d,%d,%d,%d,%d,%d,%d,%d", p.top, p.left, p.bottom,
@@ -36,8 +38,9 @@ bool sameName(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-bool writeProfileString(const std::string& path, const std::string& section, const std::string& key,
-                        const std::string& value) {
+bool writeProfileString(const std::string& hostPath, const std::string& section,
+                        const std::string& key, const std::string& value) {
+  const std::string path = nativePath(hostPath);
   std::vector<std::string> lines;
   {
     std::ifstream in(path);

@@ -13,6 +13,7 @@
 #include <thread>
 #include <vector>
 
+#include "plugin/host_path.h"
 #include "plugin/plugin_identity.h"
 #include "ui/list_memory.h"
 #include "ui/ofs_frame.h"
@@ -88,7 +89,12 @@ void QtPlatform::destroyDialogWindows() {
 }
 
 void QtPlatform::setRecoveryFiles(const std::string& userSettings, const std::string& dialogPos) {
-  setListRecoveryFiles(QString::fromStdString(userSettings), QString::fromStdString(dialogPos));
+  // Without a user directory there is nowhere of the user's own to keep them: the lists then
+  // forget their columns rather than write beside whatever folder the process runs in.
+  auto opened = [](const std::string& name) {
+    return hasDirectoryPart(name) ? QString::fromStdString(nativePath(name)) : QString();
+  };
+  setListRecoveryFiles(opened(userSettings), opened(dialogPos));
 }
 
 void QtPlatform::createImageList() {

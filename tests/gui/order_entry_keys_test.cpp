@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <stdlib.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -16,7 +17,7 @@ class OrderEntryKeys : public testing::Test {
  protected:
   OrderEntryKeys() {
     host.clock = localTime(21, 11, 2026, 36000);
-    host.state.userDirectory = testing::TempDir();
+    host.state.userDirectory = getenv("XDG_DATA_HOME");
     initPlugin(host, host.app(), "U1", 3);
     issue.issueId = "N1";
     issue.exchange = "nse_ipo";

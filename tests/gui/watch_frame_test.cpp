@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <stdlib.h>
 
 #include <QHeaderView>
 #include <QTabWidget>
@@ -17,7 +18,7 @@ class WatchFrame : public testing::Test {
  protected:
   WatchFrame() {
     host.clock = localTime(21, 11, 2026, 36000);
-    host.state.userDirectory = testing::TempDir();
+    host.state.userDirectory = getenv("XDG_DATA_HOME");
     initPlugin(host, host.app(), "U1", 3);
     frame = std::make_unique<COFSFrame>(*controlBlock());
     frame->show();

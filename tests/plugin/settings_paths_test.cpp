@@ -3,7 +3,9 @@
 #include <fstream>
 #include <iterator>
 
+#include "plugin/host_path.h"
 #include "plugin/settings_paths.h"
+#include "tests/support/scratch_dir.h"
 
 namespace {
 
@@ -21,6 +23,22 @@ TEST(WatchPlacement, SitsBesideTheExecutablesPathWithADoubledSeparator) {
   EXPECT_EQ(watchPlacementPath("/opt/vt/VornTrader"), "/opt/vt/VornTrader\\\\OFSSettings.ini");
 }
 
+TEST(HostPath, OpensTheHostsSeparatorAsThisSystems) {
+  EXPECT_EQ(nativePath("/home/d/U1\\UserSetting.ini"), "/home/d/U1/UserSetting.ini");
+  EXPECT_TRUE(hasDirectoryPart("/home/d/U1\\UserSetting.ini"));
+  EXPECT_FALSE(hasDirectoryPart("\\UserSetting.ini"));
+  EXPECT_FALSE(hasDirectoryPart("UserSetting.ini"));
+}
+
+TEST(WatchPlacement, AHostPathIsWrittenWithoutABackslashInAnyName) {
+  const ScratchDir dir;
+  ASSERT_TRUE(writeProfileString(dir.path() + "\\OFSSettings.ini", "S", "K", "1"));
+  EXPECT_TRUE(std::filesystem::exists(dir.file("OFSSettings.ini")));
+  // Beside an executable, as the host names it, the write fails and leaves nothing.
+  EXPECT_FALSE(writeProfileString(watchPlacementPath(dir.file("VornTrader")), "S", "K", "1"));
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 1);
+}
+
 }  // namespace
 
 namespace {
@@ -34,7 +52,8 @@ struct ProfileCase {
 class ProfileWrite : public testing::TestWithParam<ProfileCase> {};
 
 TEST_P(ProfileWrite, SetsTheKeyAndKeepsEverythingElse) {
-  const std::string path = testing::TempDir() + "/profile_" + GetParam().name + ".ini";
+  const ScratchDir dir;
+  const std::string path = dir.file("OFSSettings.ini");
   {
     std::ofstream out(path, std::ios::trunc);
     out << GetParam().before;
