@@ -39,6 +39,7 @@ struct AcceptedCase {
   const char* name;
   FieldList request;
   const char* price;
+  friend void PrintTo(const AcceptedCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class AcceptedPlacement : public testing::TestWithParam<AcceptedCase> {};
@@ -65,6 +66,7 @@ struct RefusedCase {
   FieldList request;
   const char* code;
   const char* text;
+  friend void PrintTo(const RefusedCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class RefusedPlacement : public testing::TestWithParam<RefusedCase> {};

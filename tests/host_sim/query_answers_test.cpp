@@ -28,6 +28,7 @@ TEST(IssueList, RowFieldsFollowTheListOrder) {
   std::vector<uint32_t> ids;
   for (const auto& [id, v] : out[0].fields) ids.push_back(id);
   EXPECT_EQ(ids, (std::vector<uint32_t>{32767, 63032, 63001, 3, 10610, 63022, 49165, 79, 55, 10027,
+  friend void PrintTo(const MalformedCase& c, std::ostream* os) { *os << c.name; }
                                         63005, 63059, 10100, 54730, 54571, 61362}));
 }
 
@@ -88,6 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
         MalformedCase{"placement_price_in_rupees",
                       "om_put_order_ofs",
                       {{63001, "nse_ipo"},
+  friend void PrintTo(const ReportCase& c, std::ostream* os) { *os << c.name; }
                        {31003, "U1"},
                        {54001, "A1"},
                        {63100, "N1"},

@@ -10,6 +10,7 @@ struct CoverCase {
   const char* name;
   KeyValues keys;
   bool covers;
+  friend void PrintTo(const CoverCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class SubscriptionCover : public testing::TestWithParam<CoverCase> {};

@@ -11,6 +11,9 @@ namespace {
 struct NumberCase {
   std::string text;
   int32_t expected;
+  friend void PrintTo(const NumberCase& c, std::ostream* os) {
+    *os << testing::PrintToString(c.text);
+  }
 };
 
 class ReadNumber : public testing::TestWithParam<NumberCase> {};

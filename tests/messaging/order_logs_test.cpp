@@ -10,6 +10,7 @@ struct LogCase {
   Lines events;
 };
 
+  friend void PrintTo(const LogCase& c, std::ostream* os) { *os << c.name; }
 class OrderAnswerLogs : public testing::TestWithParam<LogCase> {};
 
 TEST_P(OrderAnswerLogs, WriteTheExactLine) {

@@ -69,6 +69,7 @@ struct RequestCase {
   int32_t result;
   std::string line;
   bool uuid = true;
+  friend void PrintTo(const RequestCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class OrderRequests : public testing::TestWithParam<RequestCase> {};

@@ -45,6 +45,7 @@ TEST(ReportedOrders, ARepeatedRowKeepsTheOrderALiveUpdateChangesIt) {
   EXPECT_EQ(order.status, "complete");
   EXPECT_EQ(order.quantity, "20");
   EXPECT_EQ(context.store.orders.size(), 1u);
+  friend void PrintTo(const HistoryCase& c, std::ostream* os) { *os << c.name; }
 }
 
 struct HistoryCase {

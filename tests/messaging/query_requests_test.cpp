@@ -12,6 +12,7 @@ struct QueryCase {
   const char* name;
   std::function<void(MessageLayer&)> build;
   Lines expected;
+  friend void PrintTo(const QueryCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class QueryRequests : public testing::TestWithParam<QueryCase> {};
@@ -57,6 +58,9 @@ INSTANTIATE_TEST_SUITE_P(
                   [](auto& l) { requestBseCustodian(l, "A1", "Basket"); },
                   {"send 1 get_bse_custodian 54001=\"A1\" 32760=\"Basket\""}},
         QueryCase{"company_with_key",
+  friend void PrintTo(const IdentityCase& c, std::ostream* os) {
+    *os << "login kind " << c.loginKind;
+  }
                   [](auto& l) { requestCompanyIssue(l, "K", "I1"); },
                   {"send 1 get_company_ofs_issue 64926=\"K\" 63032=\"I1\" 63001=\"nse_ipo\""}},
         QueryCase{"company_without_key",

@@ -58,6 +58,7 @@ TEST_F(SendingProcedure, EachRequestStartsFromAnEmptyBuffer) {
 TEST_F(SendingProcedure, OrderBuildersReturnZeroWhenSent) {
   Request r("om_put_order_ofs", "om_put_order_ofs is failed , ", Control::First);
   EXPECT_EQ(layer.sendOrder(r), 0);
+  friend void PrintTo(const FailureCase& c, std::ostream* os) { *os << c.name; }
 }
 
 struct FailureCase {
