@@ -121,6 +121,7 @@ TEST(WireMisuse, OperationsRefuseNullsAndAddBeforeStart) {
 struct MalformedCase {
   const char* name;
   std::string bytes;
+  friend void PrintTo(const MalformedCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class WireMalformed : public testing::TestWithParam<MalformedCase> {};

@@ -25,6 +25,7 @@ struct BadLine {
   const char* name;
   std::string text;
   const char* error;
+  friend void PrintTo(const BadLine& c, std::ostream* os) { *os << c.name; }
 };
 
 class DataFileRefusal : public testing::TestWithParam<BadLine> {};

@@ -11,6 +11,7 @@ struct FixedCase {
   const char* text;
   int decimals;
   std::optional<int64_t> units;
+  friend void PrintTo(const FixedCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class FixedText : public testing::TestWithParam<FixedCase> {};
@@ -35,6 +36,7 @@ struct DateCase {
   const char* name;
   const char* text;
   const char* resolved;
+  friend void PrintTo(const DateCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class RelativeDate : public testing::TestWithParam<DateCase> {};

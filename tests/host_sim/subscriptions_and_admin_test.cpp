@@ -10,6 +10,7 @@ struct CoverCase {
   const char* name;
   KeyValues keys;
   bool covers;
+  friend void PrintTo(const CoverCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class SubscriptionCover : public testing::TestWithParam<CoverCase> {};
@@ -53,10 +54,9 @@ TEST(Subscriptions, EachNotifierHearsOnceAndNotAfterItIsForgotten) {
 }
 
 FieldList issueAdd(const std::string& floor) {
-  return {{63001, "nse_ipo"},    {3, "NEW"},           {10610, "RS"}, {63022, floor},
-          {49165, "21/11/2026"}, {79, "21/11/2026"},   {55, "1"},     {10027, "1"},
-          {63005, "0.05"},       {10100, "NEW-RS"},    {54730, ""},   {54571, "Y"},
-          {32760, "NEW-RS"},     {32760, "Normal End"}};
+  return fieldsOf("63001=nse_ipo 3=NEW 10610=RS 63022=" + floor +
+                  " 49165=21/11/2026 79=21/11/2026 55=1 10027=1 63005=0.05 10100=NEW-RS 54730= "
+                  "54571=Y 32760=NEW-RS 32760=Normal End");
 }
 
 TEST(IssueAdministration, AddingCreatesThenUpdatesTheIssueOfThatSymbol) {
@@ -104,9 +104,8 @@ TEST(IssueAdministration, CancellingUnallottedOrdersClosesTheOpenOnesOfTheIssue)
 TEST(IssueAdministration, AllotmentCompletesTheOrderItNames) {
   SimFixture f;
   f.subscribeListeners();
-  const FieldList byNumber{{63001, "bse_ipo"}, {3, "XYZ"},   {49238, "1000000505"},
-                           {54001, "A2"},      {12004, "4"}, {10306, "40000"},
-                           {20001, "fill"},    {12003, "B"}};
+  const FieldList byNumber = fieldsOf(
+      "63001=bse_ipo 3=XYZ 49238=1000000505 54001=A2 12004=4 10306=40000 20001=fill 12003=B");
   EXPECT_EQ(describe(f, f.ask("om_ofs_allotment", byNumber), {32766, 64001, 64655}),
             (Lines{"reply asker om_ofs_allotment 32766=",
                    "live bse om_ofs_allotment 64001=505 64655=complete"}));

@@ -2,16 +2,14 @@
 
 #include "tests/support/recording_dispatch_context.h"
 
+#include "tests/messaging/field_text.h"
+
 namespace {
 
 FieldList issueRow(const std::string& symbol, const std::string& asset,
                    const std::string& bidding = "Y") {
-  return {{32767, "om_get_ofs_issues"},
-          {63032, "I1"},
-          {63001, "bse_ipo"},
-          {10100, symbol},
-          {54730, asset},
-          {54571, bidding}};
+  return fieldsOf("32767=om_get_ofs_issues 63032=I1 63001=bse_ipo 10100=" + symbol +
+                  " 54730=" + asset + " 54571=" + bidding);
 }
 
 TEST(IssueRows, ANewIssueIsAddedLinkedToItsUnderlyingAndItsPriceAsked) {
@@ -56,15 +54,10 @@ TEST(IssueRows, AKnownSymbolChangesNothing) {
 
 TEST(IssueRows, CategoriesCollectTheirValuesAndSummariesKeepTheFirst) {
   RecordingDispatchContext context;
-  context.respond({{32767, "om_get_ofs_category"}, {10610, "RS"}, {13034, "IND"}});
-  context.respond({{32767, "om_get_ofs_category"}, {10610, "RS"}, {13034, "HUF"}});
-  context.respond({{32767, "get_company_ofs_issue"},
-                   {63032, "I1"},
-                   {63005, "5"},
-                   {55, "0"},
-                   {55, "10"},
-                   {10027, "2"}});
-  context.respond({{32767, "get_company_ofs_issue"}, {63032, "I1"}, {63005, "9"}});
+  context.respond(fieldsOf("32767=om_get_ofs_category 10610=RS 13034=IND"));
+  context.respond(fieldsOf("32767=om_get_ofs_category 10610=RS 13034=HUF"));
+  context.respond(fieldsOf("32767=get_company_ofs_issue 63032=I1 63005=5 55=0 55=10 10027=2"));
+  context.respond(fieldsOf("32767=get_company_ofs_issue 63032=I1 63005=9"));
   EXPECT_EQ(context.store.categories["RS"], (std::vector<std::string>{"IND", "HUF"}));
   const sOFSIssueSummary& summary = *context.store.issuesById["I1"];
   EXPECT_EQ(summary.tickSize, 5);

@@ -2,6 +2,8 @@
 
 #include "tests/support/recording_dispatch_context.h"
 
+#include "tests/messaging/field_text.h"
+
 namespace {
 
 class MarketData : public testing::Test {
@@ -18,13 +20,8 @@ class MarketData : public testing::Test {
 };
 
 TEST_F(MarketData, DepthReplyFillsLevelsAndAddsTheQuantityChangeToTbq) {
-  context.respond({{32767, "mrv_master"},
-                   {63001, "nse_ipo"},
-                   {10100, "ABC-RS"},
-                   {55000, "120"},
-                   {55500, "30"},
-                   {56000, "1"},
-                   {55501, "70"}});
+  context.respond(
+      fieldsOf("32767=mrv_master 63001=nse_ipo 10100=ABC-RS 55000=120 55500=30 56000=1 55501=70"));
   const MarketDepthState& depth = *context.depth;
   EXPECT_EQ(depth.lastUpdate, "NA");
   EXPECT_EQ(depth.levels[0].price, 120);
@@ -36,36 +33,29 @@ TEST_F(MarketData, DepthReplyFillsLevelsAndAddsTheQuantityChangeToTbq) {
 }
 
 TEST_F(MarketData, LiveDepthKeepsTheTimeWhenEmptyAndTakesTbqWhenGiven) {
-  context.update(
-      {{63001, "nse_ipo"}, {10100, "ABC-RS"}, {63080, ""}, {54283, "900"}, {55500, "99"}});
+  context.update(fieldsOf("63001=nse_ipo 10100=ABC-RS 63080= 54283=900 55500=99"));
   EXPECT_EQ(context.depth->lastUpdate, "10:00");
   EXPECT_EQ(context.depth->totalBidQuantity, 900);
 }
 
 TEST_F(MarketData, DepthOfAnotherInstrumentOrWithTwoTagsIsIgnored) {
-  context.respond({{32767, "mrv_master"}, {63001, "nse_ipo"}, {10100, "XYZ-RS"}, {55000, "1"}});
-  context.respond({{32767, "mrv_master"}, {63001, "bse_ipo"}, {10100, "ABC-RS"}, {55000, "1"}});
-  context.respond({{32767, "mrv_master"},
-                   {63001, "nse_ipo"},
-                   {10100, "ABC-RS"},
-                   {32760, "a"},
-                   {32760, "b"},
-                   {55000, "1"}});
-  context.respond({{32767, "mrv_master"}, {10100, "ABC-RS"}, {55000, "1"}});
+  for (const char* other : {"63001=nse_ipo 10100=XYZ-RS", "63001=bse_ipo 10100=ABC-RS",
+                            "63001=nse_ipo 10100=ABC-RS 32760=a 32760=b", "10100=ABC-RS"})
+    context.respond(fieldsOf("32767=mrv_master " + std::string(other) + " 55000=1"));
   EXPECT_EQ(context.depth->levels[0].price, 0);
   EXPECT_TRUE(context.events.empty());
 }
 
 TEST_F(MarketData, AssetPriceUsesTwoDecimalsByDefaultAndIsShownOnce) {
   context.store.assets["nse_cm|ABC"] = std::make_unique<sAssetInfo>();
-  FieldList reply{
-      {32767, "mrv_master"}, {63001, "nse_cm"}, {10100, "ABC"}, {6, "12345"}, {32760, "Asset LTP"}};
+  const FieldList reply =
+      fieldsOf("32767=mrv_master 63001=nse_cm 10100=ABC 6=12345 32760=Asset LTP");
   context.respond(reply);
   const sAssetInfo& asset = *context.store.assets["nse_cm|ABC"];
   EXPECT_EQ(asset.ltp, 12345);
   EXPECT_EQ(asset.decimals, 2);
   EXPECT_EQ(asset.divisor, 100.0);
-  context.update({{63001, "nse_cm"}, {10100, "ABC"}, {6, "1234567"}, {63050, "4"}});
+  context.update(fieldsOf("63001=nse_cm 10100=ABC 6=1234567 63050=4"));
   EXPECT_EQ(asset.ltp, 1234567);
   EXPECT_EQ(asset.divisor, 10000.0);
   context.respond(reply);

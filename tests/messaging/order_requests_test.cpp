@@ -69,6 +69,7 @@ struct RequestCase {
   int32_t result;
   std::string line;
   bool uuid = true;
+  friend void PrintTo(const RequestCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class OrderRequests : public testing::TestWithParam<RequestCase> {};
@@ -129,14 +130,11 @@ INSTANTIATE_TEST_SUITE_P(
                     kOfs + "63001=\"bse_ipo\" 31003=\"U1\" 54001=\"A1\" 63100=\"I1\" 12004=\"10\" "
                            "63058=\"RI\" 12008=\"L\" 10306=\"12345\" 12003=\"S\" 54056=\"F\" "
                            "64170=\"YES\" 10332=\"PC1\" 12005=\"OFS\" 54158=\"G1\" 13034=\"BP1\""},
-        RequestCase{"ofs_bulk_bse_pcode_before_ofs", with(placeOfsOrderBulk, kFull, "99.5"), 0,
+        RequestCase{"ofs_bulk_with_an_exchange_key_and_no_uuid",
+                    with(placeOfsOrderBulk, keyed(kFull), "99.5"), 0,
                     kOfs + "63001=\"bse_ipo\" 31003=\"U1\" 54001=\"A1\" 63100=\"I1\" 12004=\"10\" "
                            "63058=\"RI\" 12008=\"L\" 10306=\"9950\" 12003=\"S\" 54056=\"F\" "
-                           "64170=\"YES\" 10332=\"PC1\" 13034=\"BP1\" 12005=\"OFS\" 54158=\"G1\""},
-        RequestCase{"ofs_exchange_key_without_uuid", with(placeOfsOrder, keyed(kFull)), 0,
-                    kOfs + "63001=\"bse_ipo\" 31003=\"U1\" 54001=\"A1\" 63100=\"I1\" 12004=\"10\" "
-                           "63058=\"RI\" 12008=\"L\" 10306=\"12345\" 12003=\"S\" 54056=\"F\" "
-                           "64170=\"YES\" 10332=\"PC1\" 12005=\"OFS\" 13034=\"BP1\"",
+                           "64170=\"YES\" 10332=\"PC1\" 13034=\"BP1\" 12005=\"OFS\"",
                     false},
         RequestCase{"walkin_market_with_the_default_pcode", with(placeWalkinOrder, market(kBid)), 0,
                     kWalkin + "63100=\"I1\" 12004=\"10\" 12008=\"MKT\" 32760=\"MKT\" "
@@ -178,12 +176,6 @@ INSTANTIATE_TEST_SUITE_P(
             "63100=\"I1\" 12005=\"OFS\" 12008=\"L\" 10306=\"15050\" 12004=\"20\" "
             "64001=\"17\" 12003=\"B\" 54056=\"Active\"",
             false},
-        RequestCase{"modify_walkin_with_given_pcode",
-                    [](auto& c) { return modifyWalkinOrder(c, kOrder, "150", "20", "WP"); }, 1,
-                    "send 1 om_modify_order_walkin " + kModify +
-                        "64916=\"W1\" 63100=\"I1\" 12005=\"OFS\" 12008=\"MKT\" 32760=\"MKT\" "
-                        "10306=\"15000\" 12004=\"20\" 64001=\"17\" 12003=\"B\" "
-                        "54056=\"Active\" 64170=\"YES\" 10332=\"WP\" 54158=\"G1\""},
         RequestCase{"modify_ofs_bulk_row_values",
                     [](auto& c) { return modifyOfsOrderBulk(c, kOrder, row()); }, 1,
                     "send 1 om_modify_order_ofs " + kModify +

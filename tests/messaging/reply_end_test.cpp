@@ -21,6 +21,7 @@ struct EndCase {
   Lines events;
   Lines sent = {};
   bool dialogAdding = true;
+  friend void PrintTo(const EndCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class ReplyEnds : public testing::TestWithParam<EndCase> {};
