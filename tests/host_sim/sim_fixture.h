@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/sim/sim_exchange.h"
-#include "tests/messaging/field_text.h"
+#include "tests/support/field_text.h"
 
 namespace simtest {
 

@@ -2,7 +2,7 @@
 
 #include "tests/support/recording_dispatch_context.h"
 
-#include "tests/messaging/field_text.h"
+#include "tests/support/field_text.h"
 
 namespace {
 
