@@ -6,6 +6,8 @@
 #include "messaging/order_requests.h"
 #include "tests/support/standalone_context.h"
 
+using namespace std::string_literals;
+
 namespace {
 
 class TakeBytes : public IIrbeRxControl {
@@ -31,7 +33,7 @@ sOFSPlaceOrder retailBid() {
   bid.quantity = "150";
   bid.proCli = "CLI";
   bid.margin = "YES";
-  bid.priceType = "L";
+  bid.priceType = "L"s;  // gcc 12 -O3 misreads a one-letter literal assignment (-Wrestrict)
   bid.screenName = "NSEIPO";
   return bid;
 }

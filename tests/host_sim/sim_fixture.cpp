@@ -85,12 +85,15 @@ std::string value(const sim::Delivery& d, uint32_t id) {
 Lines describe(const SimFixture& f, const sim::Deliveries& out, const std::vector<uint32_t>& ids) {
   Lines lines;
   for (const sim::Delivery& d : out) {
-    std::string line = d.live ? "live " : "reply ";
-    line += d.to == &f.asker ? "asker" : d.to == &f.listener ? "listener" : "bse";
-    line += " " + value(d, sim::kName);
+    std::ostringstream line;
+    line << (d.live ? "live " : "reply ")
+         << (d.to == &f.asker      ? "asker"
+             : d.to == &f.listener ? "listener"
+                                   : "bse")
+         << " " << value(d, sim::kName);
     for (uint32_t id : ids)
-      for (const std::string& v : values(d, id)) line += " " + std::to_string(id) + "=" + v;
-    lines.push_back(line);
+      for (const std::string& v : values(d, id)) line << " " << id << "=" << v;
+    lines.push_back(line.str());
   }
   return lines;
 }
