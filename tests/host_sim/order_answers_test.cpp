@@ -9,8 +9,10 @@ FieldList placement(std::initializer_list<std::pair<const uint32_t, std::string>
   FieldList fields{{64030, "CNC"}, {63001, "nse_ipo"}, {31003, "U1"}, {54001, "A2"},
                    {63100, "N1"},  {12004, "10"},      {12008, "L"},  {10306, "10150"},
                    {54056, "C"},   {64170, "YES"},     {12005, "OFS"}};
-  for (const auto& [id, v] : changes) {
-    auto it = std::find_if(fields.begin(), fields.end(), [&](auto& f) { return f.first == id; });
+  for (const auto& change : changes) {
+    const auto& [id, v] = change;
+    auto it = std::find_if(fields.begin(), fields.end(),
+                           [&](auto& f) { return f.first == change.first; });
     if (it == fields.end()) {
       fields.emplace_back(id, v);
     } else {

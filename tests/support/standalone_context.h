@@ -17,6 +17,7 @@ class SilentPrompt : public PromptPort {
 
 class StandaloneContext : public DispatchContext {
  public:
+  virtual ~StandaloneContext() = default;  // harnesses derive and own it by pointer
   const OtpOps& otp() override { return connectvornOps(); }
   OFSRecords& records() override { return store; }
   OrderBookLists& orderBook() override { return book; }
