@@ -1,24 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "messaging/issue_fill.h"
+#include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
 
 namespace {
 
 TEST(IssueFill, MembersFromTheirFieldsWithNumericCopies) {
-  auto message = makeMessage({{63032, "I1"},
-                              {3, "ABC"},
-                              {10610, "Retail"},
-                              {49165, "01/02/2026"},
-                              {79, "03/02/2026"},
-                              {55, "12"},
-                              {10062, "2500000"},
-                              {10027, "4"},
-                              {63005, "0.05"},
-                              {10100, "ABC-RS"},
-                              {54730, "ABCEQ"},
-                              {54571, "N"},
-                              {61362, "Y"}});
+  auto message = makeMessage(
+      fieldsOf("63032=I1 3=ABC 10610=Retail 49165=01/02/2026 79=03/02/2026 55=12 10062=2500000 "
+               "10027=4 63005=0.05 10100=ABC-RS 54730=ABCEQ 54571=N 61362=Y"));
   sOFSCol issue;
   fillIssue(MessageView(connectvornOps(), message.get()), issue);
   EXPECT_EQ(issue.field3, "ABC");

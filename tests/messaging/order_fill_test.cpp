@@ -2,6 +2,7 @@
 
 #include "messaging/order_fill.h"
 #include "messaging/placed_order_fill.h"
+#include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
 
 namespace {
@@ -54,14 +55,9 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return info.param.name; });
 
 TEST(PlacedOrderFill, BseOrderTakesPCodeFrom64739AndMarketPriceFromTheTag) {
-  auto message = makeMessage({{54001, "A1"},
-                              {63100, "I1"},
-                              {10306, "12345"},
-                              {32760, "MKT"},
-                              {63001, "bse_ipo"},
-                              {10332, "NSEPC"},
-                              {64739, "BSEPC"},
-                              {64170, "NO"}});
+  auto message = makeMessage(
+      fieldsOf("54001=A1 63100=I1 10306=12345 32760=MKT 63001=bse_ipo 10332=NSEPC 64739=BSEPC "
+               "64170=NO"));
   sOFSOrderInfo order;
   fillPlacedOrder(MessageView(connectvornOps(), message.get()), order);
   EXPECT_EQ(order.pCode, "BSEPC");
