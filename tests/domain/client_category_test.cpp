@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ struct CategoryCase {
   std::string name;
   CategoryBid bid;
   std::string message;  // empty when the category agrees
+  friend void PrintTo(const CategoryCase& c, std::ostream* os) { *os << c.name; }
 };
 using C = CategoryCase;
 
@@ -38,8 +40,7 @@ INSTANTIATE_TEST_SUITE_P(Bids, CategoryTable, testing::Values(
     C{"NonInstitutional", {"BSEIPO", "NonRetail", "Non-institutional", false, "IC"},
       "Client Category should be NII if OrderType is Non-Institutional"},
     C{"InstitutionalOths", {"BSEIPO", "NonRetail", "Institutional", false, "OTHS"}, ""},
-    C{"InstitutionalNii", {"BSEIPO", "NonRetail", "Institutional", false, "NII"}, kInst}),
-    [](const auto& info) { return info.param.name; });
+    C{"InstitutionalNii", {"BSEIPO", "NonRetail", "Institutional", false, "NII"}, kInst}));
 // clang-format on
 
 TEST(BseCategoryChoices, KeepsAgreeingEntriesInTheIssuesOrder) {
