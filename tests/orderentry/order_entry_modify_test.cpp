@@ -108,13 +108,16 @@ INSTANTIATE_TEST_SUITE_P(
         SubmitCase{"is_no_margin_up", isNoMarginOrder, typeEntry("160", "4000"), ""},
         SubmitCase{"rs_down", kAsIs, typeEntry("140", "50"), ""}));
 
-TEST_F(Modify, AnNseMarketOrderShowsMktInADisabledPrice) {
+TEST_F(Modify, AnNseMarketOrderShowsMktInADisabledPriceAndGoesAtTheCeiling) {
   openModify([](sOFSCol&, sOFSOrderInfo& o) {
     o.priceType = "MKT";
     o.price = "MKT";
   });
   EXPECT_EQ(dialog->fields().price.text, "MKT");
   EXPECT_FALSE(dialog->fields().price.enabled);
+  dialog->submit();
+  ASSERT_EQ(sends().size(), 1u);
+  EXPECT_NE(sends()[0].find("12008=\"MKT\" 32760=\"MKT\" 10306=\"20000\""), std::string::npos);
 }
 
 TEST_F(Modify, IsSentThenTheScreenReturnsToNewBids) {
@@ -134,14 +137,6 @@ TEST_F(Modify, IsSentThenTheScreenReturnsToNewBids) {
   EXPECT_FALSE(dialog->modifying());
   EXPECT_EQ(dialog->fields().quantity.text, "");
   EXPECT_TRUE(dialog->fields().clientType.enabled);
-}
-
-TEST_F(Modify, ACutOffEntryGoesAtTheCeiling) {
-  openModify();
-  dialog->setCutOff(true);
-  dialog->submit();
-  ASSERT_EQ(sends().size(), 1u);
-  EXPECT_NE(sends()[0].find("12008=\"MKT\" 32760=\"MKT\" 10306=\"20000\""), std::string::npos);
 }
 
 TEST_F(Modify, AnOrderWithoutAccountGoesAsWalkinWithTheTypedPCode) {

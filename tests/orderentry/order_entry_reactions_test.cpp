@@ -158,17 +158,14 @@ TEST_F(Reactions, ABseRetailBidOffersRiUntilTheCutOffIsTicked) {
   EXPECT_TRUE(f().price.enabled);
 }
 
-TEST_F(Reactions, ABseEmployeeRetailBidOffersEveryCategory) {
-  openOn(bseIssue("Employee"));
-  EXPECT_EQ(f().clientCategory.items.size(), 7u);
-  EXPECT_EQ(f().clientCategory.selected, "RI");
-}
-
-TEST_F(Reactions, OpeningShowsTheIssue) {
-  sOFSCol issue = bseIssue("Retail");
+// An employee series offers every category of the issue.
+TEST_F(Reactions, OpeningShowsTheIssueAndItsCategories) {
+  sOFSCol issue = bseIssue("Employee");
   issue.field67 = "15:30:00";
   openOn(issue);
-  EXPECT_EQ(f().ofsId.text, "XYZ-Retail");
+  EXPECT_EQ(f().clientCategory.items.size(), 7u);
+  EXPECT_EQ(f().clientCategory.selected, "RI");
+  EXPECT_EQ(f().ofsId.text, "XYZ-Employee");
   EXPECT_EQ(f().exchange.text, "BSEIPO");
   EXPECT_EQ(f().priceRange, "100-200");
   EXPECT_EQ(f().closingTime, "15:30:00");
