@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+
 #include "issues/issue_date.h"
 #include "issues/watch_columns.h"
 #include "issues/watch_view.h"
@@ -91,17 +92,12 @@ INSTANTIATE_TEST_SUITE_P(
                     DateCase{"10/13/2026", false}, DateCase{"", false}, DateCase{"abc", false},
                     DateCase{"10-Foo-2026", false}));
 
-TEST_F(WatchViewTest, NewestIssueStandsOnTop) {
-  view().addIssue(issue("I1", "01/11/2026", "30/11/2026"));
-  view().addIssue(issue("I2", "01/11/2026", "30/11/2026"));
-  EXPECT_EQ(ids(WatchTab::Current), (std::vector<std::string>{"I2", "I1"}));
-  EXPECT_EQ(view().currentIssueIds(), (std::vector<std::string>{"I1", "I2"}));
-}
-
-TEST_F(WatchViewTest, SelectionFollowsItsRowWhenAnIssueArrivesAbove) {
+TEST_F(WatchViewTest, NewestIssueStandsOnTopAndTheSelectionFollowsItsRow) {
   view().addIssue(issue("I1", "01/11/2026", "30/11/2026"));
   view().setSelection(WatchTab::Current, {0});
   view().addIssue(issue("I2", "01/11/2026", "30/11/2026"));
+  EXPECT_EQ(ids(WatchTab::Current), (std::vector<std::string>{"I2", "I1"}));
+  EXPECT_EQ(view().currentIssueIds(), (std::vector<std::string>{"I1", "I2"}));
   EXPECT_EQ(view().selectedIssue()->issueId, "I1");
 }
 
@@ -114,12 +110,6 @@ TEST(WatchColumns, TextsOfAFilledIssue) {
   EXPECT_EQ(watchColumnText(&col, 3), "1234568");
   EXPECT_EQ(watchColumnText(&col, 17), "extra");
   EXPECT_EQ(watchColumnText(&col, 16, "as passed"), "as passed");
-  sAssetInfo asset;
-  asset.ltp = 123456;
-  asset.decimals = 3;
-  asset.divisor = 1000.0;
-  col.asset = &asset;
-  EXPECT_EQ(watchColumnText(&col, 16, "as passed"), "123.456");
   EXPECT_EQ(watchColumnText(nullptr, 0), "");
 }
 
