@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "domain/amount_rules.h"
@@ -10,6 +11,7 @@ struct AmountCase {
   std::string name;
   std::string series, price, quantity;
   std::string message;  // empty when the amount is within the limits
+  friend void PrintTo(const AmountCase& c, std::ostream* os) { *os << c.name; }
 };
 using A = AmountCase;
 
@@ -34,14 +36,14 @@ INSTANTIATE_TEST_SUITE_P(Bids, BidAmountLimits, testing::Values(
     A{"NonRetailBelow", "IS", "99.99999", "2000",
       "Amount Should Exceed 200000.00 for IS series orders"},
     A{"NonRetailAtLimit", "NonRetail", "100", "2000", ""},
-    A{"OtherSeriesUnlimited", "XX", "9999999", "999999999", ""}),
-    [](const auto& info) { return info.param.name; });
+    A{"OtherSeriesUnlimited", "XX", "9999999", "999999999", ""}));
 // clang-format on
 
 struct RevisionCase {
   std::string name;
   Revision revision;
   std::string message;  // empty when the revision is allowed
+  friend void PrintTo(const RevisionCase& c, std::ostream* os) { *os << c.name; }
 };
 using R = RevisionCase;
 
@@ -64,8 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Orders, NseRevision, testing::Values(
     R{"PriceFirst", {"nse_ipo", "IS", "No Margin", "12345", "100", "1", "1"}, kPriceDown},
     R{"RetailSeries", {"nse_ipo", "RS", "No Margin", "12345", "100", "1", "1"}, ""},
     R{"FullMargin", {"nse_ipo", "IS", "100% Margin", "12345", "100", "1", "1"}, ""},
-    R{"Bse", {"bse_ipo", "IS", "No Margin", "12345", "100", "1", "1"}, ""}),
-    [](const auto& info) { return info.param.name; });
+    R{"Bse", {"bse_ipo", "IS", "No Margin", "12345", "100", "1", "1"}, ""}));
 // clang-format on
 
 }  // namespace

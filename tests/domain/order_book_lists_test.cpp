@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include "domain/order_book_lists.h"
 #include "tests/support/recording_dispatch_context.h"
 
@@ -16,6 +17,7 @@ struct UpdateCase {
   std::vector<FieldList> updates;
   Numbers open;    // top line first
   Numbers closed;  // top line first
+  friend void PrintTo(const UpdateCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class LiveOrderUpdates : public testing::TestWithParam<UpdateCase> {};
@@ -53,8 +55,7 @@ INSTANTIATE_TEST_SUITE_P(
                    {"1"},
                    {}},
         UpdateCase{
-            "update_without_order_number_ignored", {{{63100, "I1"}, {64655, "open"}}}, {}, {}}),
-    [](const auto& info) { return info.param.name; });
+            "update_without_order_number_ignored", {{{63100, "I1"}, {64655, "open"}}}, {}, {}}));
 
 TEST(OrderBookRebuild, HighestNumberByteWiseOnTopAndUnknownWordsClosed) {
   RecordingDispatchContext context;

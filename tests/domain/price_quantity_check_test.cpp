@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "domain/prices.h"
@@ -12,6 +13,7 @@ struct PairCase {
   std::string price;
   std::string quantity;
   std::string message;  // empty when the pair passes
+  friend void PrintTo(const PairCase& c, std::ostream* os) { *os << c.name; }
 };
 
 const char kAmount[] = "Amount Cannot exceed above 9999999";
@@ -39,7 +41,6 @@ INSTANTIATE_TEST_SUITE_P(
                     PairCase{"EightRupeeDigits", "12345678", "5", kAmount},
                     PairCase{"EightPaiseDigits", "1.12345678", "5", ""},
                     PairCase{"NinePaiseDigits", "1.123456789", "5",
-                             "Paise Part cannot Exceed above .99"}),
-    [](const auto& info) { return info.param.name; });
+                             "Paise Part cannot Exceed above .99"}));
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "domain/prices.h"
@@ -13,6 +14,7 @@ struct TickCase {
   int64_t tick;
   int32_t decimals;
   std::string message;  // empty when the price passes
+  friend void PrintTo(const TickCase& c, std::ostream* os) { *os << c.name; }
 };
 
 std::string tickIs(const std::string& rupees) {
@@ -48,8 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TickCase{"Multiple", false, "15", 5, 2, ""},
                     TickCase{"PaiseNotMultiple", false, "15.50", 5, 2, tickIs("5.00")},
                     TickCase{"SubPaiseDropped", false, "15.001", 5, 3, ""},
-                    TickCase{"NegativeTickSkips", false, "7.5", -3, 2, ""}),
-    [](const auto& info) { return info.param.name; });
+                    TickCase{"NegativeTickSkips", false, "7.5", -3, 2, ""}));
 
 INSTANTIATE_TEST_SUITE_P(
     Paise, PriceTick,
@@ -62,7 +63,6 @@ INSTANTIATE_TEST_SUITE_P(
                     TickCase{"LeadingPointNotMultiple", true, ".3", 500, 2, tickIs("5.00")},
                     TickCase{"LeadingPointNegativeTick", true, ".5", -7, 2, tickIs("-0.07")},
                     TickCase{"NegativeTickSkips", true, "0.5", -7, 2, ""},
-                    TickCase{"TickShownForDecimals", true, "1.2345", 5, 4, tickIs("5.00")}),
-    [](const auto& info) { return info.param.name; });
+                    TickCase{"TickShownForDecimals", true, "1.2345", 5, 4, tickIs("5.00")}));
 
 }  // namespace

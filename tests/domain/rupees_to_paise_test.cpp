@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <ostream>
 #include <string>
 
 #include "domain/prices.h"
@@ -13,6 +14,7 @@ struct PaiseCase {
   int32_t decimals;
   int32_t multiplier;
   int32_t expected;
+  friend void PrintTo(const PaiseCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class ConvertRupeesToPaise : public testing::TestWithParam<PaiseCase> {};
@@ -36,8 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PaiseCase{"DecimalsAndMultiplier", "12.5", 3, 10, 125000},
                     PaiseCase{"NoDecimals", "12.5", 0, 1, 13},
                     PaiseCase{"Huge", "0.5e400", 2, 1, -1}, PaiseCase{"Tiny", "100e-400", 2, 1, 0},
-                    PaiseCase{"TinyWithoutExponent", "0." + std::string(400, '0') + "1", 2, 1, 0}),
-    [](const auto& info) { return info.param.name; });
+                    PaiseCase{"TinyWithoutExponent", "0." + std::string(400, '0') + "1", 2, 1, 0}));
 
 TEST(PaiseToRupeesText, TwoDecimalsExceptMarket) {
   EXPECT_EQ(paiseToRupeesText("MKT"), "MKT");

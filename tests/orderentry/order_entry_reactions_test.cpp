@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
 
 #include "tests/support/order_entry_fixture.h"
 
@@ -14,7 +15,6 @@ class Reactions : public OrderEntryFixture {
     host.state.accounts = std::move(accounts);
     host.state.pcodes = {{"P1", "PC1"}};
     start();
-    block().recordMaps.categories["CAT"] = {"RI", "RIC", "EMP", "NII", "IC", "MF", "OTHS"};
     dialog->open(addIssue(issue));
     prompt().clear();
   }
@@ -23,47 +23,41 @@ class Reactions : public OrderEntryFixture {
 
 struct FilterCase {
   const char* name;
-  std::function<bool(COrderEntryDlg&, const std::string&)> type;
-  std::function<std::string(const OrderEntryFields&)> read;
+  bool (COrderEntryDlg::*type)(const std::string&);
+  EntryText OrderEntryFields::*field;
   const char* text;
   bool accepted;
+  friend void PrintTo(const FilterCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class InputFilters : public Reactions, public testing::WithParamInterface<FilterCase> {};
 
 TEST_P(InputFilters, AcceptOnlyTheirCharacters) {
+  const FilterCase& c = GetParam();
   openOn(nseIssue());
   dialog->selectClientType("Walkin");
-  EXPECT_EQ(GetParam().type(*dialog, GetParam().text), GetParam().accepted);
-  EXPECT_EQ(GetParam().read(f()), GetParam().accepted ? GetParam().text : "");
+  EXPECT_EQ(((*dialog).*c.type)(c.text), c.accepted);
+  EXPECT_EQ((f().*c.field).text, c.accepted ? c.text : "");
 }
 
-const auto kQuantity = [](COrderEntryDlg& d, const std::string& t) { return d.setQuantity(t); };
-const auto kPrice = [](COrderEntryDlg& d, const std::string& t) { return d.setPrice(t); };
-const auto kCode = [](COrderEntryDlg& d, const std::string& t) { return d.setWalkinClientCode(t); };
-const auto kPCode = [](COrderEntryDlg& d, const std::string& t) {
-  return d.setWalkinParticipantCode(t);
-};
-const auto kQuantityText = [](const OrderEntryFields& f) { return f.quantity.text; };
-const auto kPriceText = [](const OrderEntryFields& f) { return f.price.text; };
-const auto kCodeText = [](const OrderEntryFields& f) { return f.walkinClientCode.text; };
-const auto kPCodeText = [](const OrderEntryFields& f) { return f.walkinParticipantCode.text; };
+using D = COrderEntryDlg;
+using F = OrderEntryFields;
 
 INSTANTIATE_TEST_SUITE_P(
     Fields, InputFilters,
-    testing::Values(FilterCase{"quantity_digits", kQuantity, kQuantityText, "0123", true},
-                    FilterCase{"quantity_point", kQuantity, kQuantityText, "1.5", false},
-                    FilterCase{"quantity_letter", kQuantity, kQuantityText, "12a", false},
-                    FilterCase{"price_decimal", kPrice, kPriceText, "12.50", true},
-                    FilterCase{"price_comma", kPrice, kPriceText, "12,5", false},
-                    FilterCase{"price_mkt_is_not_typed", kPrice, kPriceText, "MKT", false},
-                    FilterCase{"walkin_code", kCode, kCodeText, "AU12", true},
-                    FilterCase{"walkin_code_q", kCode, kCodeText, "AQ1", false},
-                    FilterCase{"walkin_code_lower_case", kCode, kCodeText, "ab1", false},
-                    FilterCase{"walkin_code_blank", kCode, kCodeText, "A B", false},
-                    FilterCase{"walkin_pcode", kPCode, kPCodeText, "PU1", true},
-                    FilterCase{"walkin_pcode_q", kPCode, kPCodeText, "PQ", false}),
-    [](const auto& info) { return info.param.name; });
+    testing::Values(
+        FilterCase{"quantity_digits", &D::setQuantity, &F::quantity, "0123", true},
+        FilterCase{"quantity_point", &D::setQuantity, &F::quantity, "1.5", false},
+        FilterCase{"quantity_letter", &D::setQuantity, &F::quantity, "12a", false},
+        FilterCase{"price_decimal", &D::setPrice, &F::price, "12.50", true},
+        FilterCase{"price_comma", &D::setPrice, &F::price, "12,5", false},
+        FilterCase{"price_mkt_is_not_typed", &D::setPrice, &F::price, "MKT", false},
+        FilterCase{"walkin_code", &D::setWalkinClientCode, &F::walkinClientCode, "AU12", true},
+        FilterCase{"walkin_code_q", &D::setWalkinClientCode, &F::walkinClientCode, "AQ1", false},
+        FilterCase{"walkin_pcode", &D::setWalkinParticipantCode, &F::walkinParticipantCode, "PU1",
+                   true},
+        FilterCase{"walkin_pcode_q", &D::setWalkinParticipantCode, &F::walkinParticipantCode, "PQ",
+                   false}));
 
 struct ClientTypeCase {
   const char* name;
@@ -73,6 +67,7 @@ struct ClientTypeCase {
   EntryText clientCode;
   bool walkinShown;
   bool participantCodeEnabled;
+  friend void PrintTo(const ClientTypeCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class ClientType : public Reactions, public testing::WithParamInterface<ClientTypeCase> {};
@@ -100,8 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
             "cli_non_retail_series", "IS", {"A1", "A2"}, "CLI", {"", true, true}, false, true},
         ClientTypeCase{
             "pro_is_the_user", "IS", {"A1", "A2"}, "PRO", {"U1", false, true}, false, false},
-        ClientTypeCase{"walkin", "RS", {"A1"}, "Walkin", {"", false, false}, true, false}),
-    [](const auto& info) { return info.param.name; });
+        ClientTypeCase{"walkin", "RS", {"A1"}, "Walkin", {"", false, false}, true, false}));
 
 TEST_F(Reactions, AnNseBidOffersThreeClientTypesAndNoCategory) {
   openOn(nseIssue());
@@ -111,11 +105,14 @@ TEST_F(Reactions, AnNseBidOffersThreeClientTypesAndNoCategory) {
   EXPECT_FALSE(f().clientCategory.enabled);
 }
 
-TEST_F(Reactions, AnNseRetailAccountWithPCodeIsRefused) {
-  openOn(nseIssue("RS"));
-  dialog->setClientCode("P1");
-  EXPECT_EQ(prompt().messages(), Lines{"Client with Pcode Cannot Place Retail Orders"});
-  EXPECT_EQ(f().clientCode.text, "");
+TEST_F(Reactions, ARetailAccountWithPCodeIsRefusedOnEitherExchange) {
+  for (const sOFSCol& issue : {nseIssue("RS"), bseIssue("Employee")}) {
+    openOn(issue);
+    dialog->setClientCode("P1");
+    EXPECT_EQ(prompt().messages(), Lines{"Client with Pcode Cannot Place Retail Orders"})
+        << issue.symbol;
+    EXPECT_EQ(f().clientCode.text, "") << issue.symbol;
+  }
 }
 
 TEST_F(Reactions, AnNseInstitutionalAccountWithPCodeMayBidWithoutMargin) {
@@ -130,13 +127,6 @@ TEST_F(Reactions, AnNseInstitutionalAccountWithPCodeMayBidWithoutMargin) {
   dialog->setClientCode("A1");
   EXPECT_EQ(f().margin.items, Strings{"100% Margin"});
   EXPECT_TRUE(f().participantCode.items.empty());
-}
-
-TEST_F(Reactions, ABseRetailAccountWithPCodeIsRefused) {
-  openOn(bseIssue("Employee"));
-  dialog->setClientCode("P1");
-  EXPECT_EQ(prompt().messages(), Lines{"Client with Pcode Cannot Place Retail Orders"});
-  EXPECT_EQ(f().clientCode.text, "");
 }
 
 TEST_F(Reactions, ABseNonInstitutionalAccountWithPCodeBecomesInstitutional) {
@@ -168,19 +158,14 @@ TEST_F(Reactions, ABseRetailBidOffersRiUntilTheCutOffIsTicked) {
   EXPECT_TRUE(f().price.enabled);
 }
 
-TEST_F(Reactions, ABseEmployeeRetailBidOffersEveryCategory) {
-  openOn(bseIssue("Employee"));
-  EXPECT_EQ(f().clientCategory.items.size(), 7u);
-  EXPECT_EQ(f().clientCategory.selected, "RI");
-}
-
-TEST_F(Reactions, OpeningShowsTheIssue) {
-  sOFSCol issue = bseIssue("Retail");
+// An employee series offers every category of the issue.
+TEST_F(Reactions, OpeningShowsTheIssueAndItsCategories) {
+  sOFSCol issue = bseIssue("Employee");
   issue.field67 = "15:30:00";
   openOn(issue);
-  EXPECT_EQ(dialog->heading(), "Place OFS Order 3.14.7");
-  EXPECT_EQ(dialog->buttonText(), "Submit");
-  EXPECT_EQ(f().ofsId.text, "XYZ-Retail");
+  EXPECT_EQ(f().clientCategory.items.size(), 7u);
+  EXPECT_EQ(f().clientCategory.selected, "RI");
+  EXPECT_EQ(f().ofsId.text, "XYZ-Employee");
   EXPECT_EQ(f().exchange.text, "BSEIPO");
   EXPECT_EQ(f().priceRange, "100-200");
   EXPECT_EQ(f().closingTime, "15:30:00");

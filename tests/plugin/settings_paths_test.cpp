@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <ostream>
 
 #include "plugin/host_path.h"
 #include "plugin/settings_paths.h"
@@ -39,14 +40,11 @@ TEST(WatchPlacement, AHostPathIsWrittenWithoutABackslashInAnyName) {
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 1);
 }
 
-}  // namespace
-
-namespace {
-
 struct ProfileCase {
   const char* name;
   std::string before;
   std::string after;
+  friend void PrintTo(const ProfileCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class ProfileWrite : public testing::TestWithParam<ProfileCase> {};
@@ -75,7 +73,6 @@ INSTANTIATE_TEST_SUITE_P(
                                 "[DIALOG_POSITION]\nb=2\nOFSWatchView=1,2,3\n\n[Other]\na=1\n"},
                     ProfileCase{
                         "same_key_in_another_section_untouched", "[Other]\nOFSWatchView=x\n",
-                        "[Other]\nOFSWatchView=x\n[DIALOG_POSITION]\nOFSWatchView=1,2,3\n"}),
-    [](const auto& info) { return info.param.name; });
+                        "[Other]\nOFSWatchView=x\n[DIALOG_POSITION]\nOFSWatchView=1,2,3\n"}));
 
 }  // namespace

@@ -26,7 +26,6 @@ struct FakeHostState {
   bool clientOverview = false;
   std::vector<std::string> assignedClients;
   std::string userDirectory;
-  bool uuid = false;
   int uuidCounter = 0;
 
   // What the plug-in did to the host, in order: send/subscribe lines of the receive controls,

@@ -20,7 +20,6 @@ class FakeRxControl : public IIrbeRxControl {
   void failSends(bool fail) { failSends_ = fail; }
   // `send N name id="v" ...` and `subscribe N id="v" ...`, as the headless transcript shows.
   const std::vector<std::string>& lines() const { return lines_; }
-  void clear() { lines_.clear(); }
 
  private:
   int kind_;

@@ -15,6 +15,7 @@ OrderEntryFixture::~OrderEntryFixture() {
 
 void OrderEntryFixture::start() {
   initPlugin(host, host.app(), "U1", 3);
+  block().recordMaps.categories["CAT"] = {"RI", "RIC", "EMP", "NII", "IC", "MF", "OTHS"};
   dialog = std::make_unique<COrderEntryDlg>(block(), host.promptLog);
   host.state.events.clear();
   host.promptLog.clear();
@@ -83,6 +84,13 @@ EntryAct typeQuantity(const std::string& text) {
 
 EntryAct typePrice(const std::string& text) {
   return [text](COrderEntryDlg& d) { d.setPrice(text); };
+}
+
+EntryAct typeEntry(const std::string& price, const std::string& quantity) {
+  return [=](COrderEntryDlg& d) {
+    d.setPrice(price);
+    d.setQuantity(quantity);
+  };
 }
 
 EntryAct pickClientType(const std::string& entry) {

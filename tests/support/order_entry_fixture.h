@@ -24,6 +24,7 @@ sOFSOrderInfo openOrder(const std::string& symbol = "ABC-RS");
 using EntryAct = std::function<void(COrderEntryDlg&)>;
 EntryAct typeQuantity(const std::string& text);
 EntryAct typePrice(const std::string& text);
+EntryAct typeEntry(const std::string& price, const std::string& quantity);
 EntryAct pickClientType(const std::string& entry);
 const EntryAct kNoAct = [](COrderEntryDlg&) {};
 
@@ -32,7 +33,8 @@ class OrderEntryFixture : public testing::Test {
   OrderEntryFixture();
   ~OrderEntryFixture() override;
 
-  // Starts the plug-in; host settings (accounts, peers) must be made before.
+  // Starts the plug-in with every BSE category under "CAT"; host settings (accounts, peers)
+  // must be made before.
   void start();
   COFSControlBlock& block() { return *controlBlock(); }
   RecordingPrompt& prompt() { return host.promptLog; }
