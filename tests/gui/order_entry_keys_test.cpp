@@ -22,7 +22,7 @@ class OrderEntryKeys : public testing::Test {
     issue.issueId = "N1";
     issue.exchange = "nse_ipo";
     issue.symbol = "ABC-RS";
-    issue.field63059 = "Y";
+    issue.field63059 = std::string(1, 'Y');  // gcc 12 -O3 misreads a literal assignment
     dialog = std::make_unique<OrderEntryDialog>(*controlBlock(), prompt);
     dialog->openNewBid(issue);
   }

@@ -34,79 +34,59 @@ class Modify : public OrderEntryFixture {
   }
 };
 
-struct SubmitCase {
-  const char* name;
-  Arrange arrange;
-  EntryAct act;
-  std::string message;  // empty: the revision is sent
-  std::string focus = "";
-  friend void PrintTo(const SubmitCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class ModifySubmit : public Modify, public testing::WithParamInterface<SubmitCase> {};
+using Case = SubmitCase<Arrange>;
+class ModifySubmit : public Modify, public testing::WithParamInterface<Case> {};
 
 TEST_P(ModifySubmit, RefusesWithItsMessageStayingInModificationOrSends) {
-  const SubmitCase& c = GetParam();
-  openModify(c.arrange);
-  c.act(*dialog);
-  prompt().clear();
-  const OrderEntryFields typed = dialog->fields();
-  dialog->submit();
-  EXPECT_EQ(prompt().messages(), c.message.empty() ? Lines{} : Lines{c.message});
-  EXPECT_EQ(prompt().focused(), c.focus.empty() ? Lines{} : Lines{c.focus});
-  EXPECT_EQ(sends().size(), c.message.empty() ? 1u : 0u);
-  if (c.message.empty()) return;
-  EXPECT_EQ(dialog->heading(), "Modify OFS Order");
-  EXPECT_EQ(dialog->fields().quantity.text, typed.quantity.text);
-  EXPECT_EQ(dialog->fields().price.text, typed.price.text);
+  openModify(GetParam().arrange);
+  GetParam().act(*dialog);
+  submitExpecting(GetParam().message, GetParam().focus);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Steps, ModifySubmit,
     testing::Values(
-        SubmitCase{"one_second_after_closing",
-                   [](sOFSCol& i, sOFSOrderInfo&) { i.field67 = "09:59:59"; }, kNoAct,
-                   "Cannot Place ofs after offer Closing time"},
-        SubmitCase{"bse_without_category",
-                   [](sOFSCol& i, sOFSOrderInfo& o) {
-                     i = bseIssue("Retail");
-                     i.category = "NONE";
-                     o.exchange = "bse_ipo";
-                     o.symbol = i.symbol;
-                   },
-                   kNoAct, "client category is not set for the selected AccountID"},
-        SubmitCase{"above_the_ceiling", kAsIs, typePrice("250"),
-                   "Price placed is beyond the Ceiling Price"},
-        SubmitCase{"empty_price_before_quantity", kAsIs, typeEntry("", ""),
-                   "Please enter some Price"},
-        SubmitCase{"zero_price", kAsIs, typePrice("0"), "Price cant be zero", "Price"},
-        SubmitCase{"off_the_orders_tick", [](sOFSCol&, sOFSOrderInfo& o) { o.issueTickSize = 1; },
-                   typePrice("150.5"),
-                   "Price should be multiple of Tick Size which is 1.00 rupees for this security"},
-        SubmitCase{"empty_quantity", kAsIs, typeQuantity(""), "Please enter some quantity"},
-        SubmitCase{"below_minimum", kAsIs, typeQuantity("5"), "Order minimum Quantity is 10"},
-        SubmitCase{"off_the_lot", kAsIs, typeQuantity("12"),
-                   "Qty should be a multiple of Lot which is 5 for this security"},
-        SubmitCase{"is_no_margin_price_down", isNoMarginOrder, typePrice("140"),
-                   "Price cannot be modified downwards"},
-        SubmitCase{"is_no_margin_quantity_down", isNoMarginOrder, typeQuantity("50"),
-                   "Quantity cannot be modified downwards"},
-        SubmitCase{"below_the_floor", kAsIs, typePrice("90"),
-                   "Price Should be more than or equal to Floor Price 100.0000"},
-        SubmitCase{"above_issue_size", [](sOFSCol& i, sOFSOrderInfo&) { i.issueSize = 50; }, kNoAct,
-                   "Qty should be lesser than 50 (Issue Size) for this security"},
-        SubmitCase{"retail_amount", kAsIs, typeQuantity("2000"),
-                   "Amount cannot be greater than 200000 for RS series orders"},
-        SubmitCase{"non_retail_amount", onIsSeries, kNoAct,
-                   "Amount Should Exceed 500000 for IS series orders"},
-        SubmitCase{"ten_digit_quantity",
-                   [](sOFSCol& i, sOFSOrderInfo& o) {
-                     onIsSeries(i, o);
-                     i.lotSize = 0;
-                   },
-                   typeQuantity("1000000000"), "Qty. should not be more than 9 Digits"},
-        SubmitCase{"is_no_margin_up", isNoMarginOrder, typeEntry("160", "4000"), ""},
-        SubmitCase{"rs_down", kAsIs, typeEntry("140", "50"), ""}));
+        Case{"one_second_after_closing", [](sOFSCol& i, sOFSOrderInfo&) { i.field67 = "09:59:59"; },
+             kNoAct, "Cannot Place ofs after offer Closing time"},
+        Case{"bse_without_category",
+             [](sOFSCol& i, sOFSOrderInfo& o) {
+               i = bseIssue("Retail");
+               i.category = "NONE";
+               o.exchange = "bse_ipo";
+               o.symbol = i.symbol;
+             },
+             kNoAct, "client category is not set for the selected AccountID"},
+        Case{"above_the_ceiling", kAsIs, typePrice("250"),
+             "Price placed is beyond the Ceiling Price"},
+        Case{"empty_price_before_quantity", kAsIs, typeEntry("", ""), "Please enter some Price"},
+        Case{"zero_price", kAsIs, typePrice("0"), "Price cant be zero", "Price"},
+        Case{"off_the_orders_tick", [](sOFSCol&, sOFSOrderInfo& o) { o.issueTickSize = 1; },
+             typePrice("150.5"),
+             "Price should be multiple of Tick Size which is 1.00 rupees for this security"},
+        Case{"empty_quantity", kAsIs, typeQuantity(""), "Please enter some quantity"},
+        Case{"below_minimum", kAsIs, typeQuantity("5"), "Order minimum Quantity is 10"},
+        Case{"off_the_lot", kAsIs, typeQuantity("12"),
+             "Qty should be a multiple of Lot which is 5 for this security"},
+        Case{"is_no_margin_price_down", isNoMarginOrder, typePrice("140"),
+             "Price cannot be modified downwards"},
+        Case{"is_no_margin_quantity_down", isNoMarginOrder, typeQuantity("50"),
+             "Quantity cannot be modified downwards"},
+        Case{"below_the_floor", kAsIs, typePrice("90"),
+             "Price Should be more than or equal to Floor Price 100.0000"},
+        Case{"above_issue_size", [](sOFSCol& i, sOFSOrderInfo&) { i.issueSize = 50; }, kNoAct,
+             "Qty should be lesser than 50 (Issue Size) for this security"},
+        Case{"retail_amount", kAsIs, typeQuantity("2000"),
+             "Amount cannot be greater than 200000 for RS series orders"},
+        Case{"non_retail_amount", onIsSeries, kNoAct,
+             "Amount Should Exceed 500000 for IS series orders"},
+        Case{"ten_digit_quantity",
+             [](sOFSCol& i, sOFSOrderInfo& o) {
+               onIsSeries(i, o);
+               i.lotSize = 0;
+             },
+             typeQuantity("1000000000"), "Qty. should not be more than 9 Digits"},
+        Case{"is_no_margin_up", isNoMarginOrder, typeEntry("160", "4000"), ""},
+        Case{"rs_down", kAsIs, typeEntry("140", "50"), ""}));
 
 TEST_F(Modify, AnNseMarketOrderShowsMktInADisabledPriceAndGoesAtTheCeiling) {
   openModify([](sOFSCol&, sOFSOrderInfo& o) {

@@ -26,31 +26,13 @@ class NewBid : public OrderEntryFixture {
   }
 };
 
-struct SubmitCase {
-  const char* name;
-  Arrange arrange;
-  EntryAct act;
-  std::string message;  // empty: the bid is sent
-  std::string focus = "";
-  friend void PrintTo(const SubmitCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class NewBidSubmit : public NewBid, public testing::WithParamInterface<SubmitCase> {};
+using Case = SubmitCase<Arrange>;
+class NewBidSubmit : public NewBid, public testing::WithParamInterface<Case> {};
 
 TEST_P(NewBidSubmit, RefusesWithItsMessageKeepingTheFieldsOrSends) {
-  const SubmitCase& c = GetParam();
-  openBid(nseIssue(), c.arrange);
-  c.act(*dialog);
-  prompt().clear();
-  const OrderEntryFields typed = dialog->fields();
-  dialog->submit();
-  EXPECT_EQ(prompt().messages(), c.message.empty() ? Lines{} : Lines{c.message});
-  EXPECT_EQ(prompt().focused(), c.focus.empty() ? Lines{} : Lines{c.focus});
-  EXPECT_EQ(sends().size(), c.message.empty() ? 1u : 0u);
-  if (c.message.empty()) return;
-  EXPECT_EQ(dialog->fields().quantity.text, typed.quantity.text);
-  EXPECT_EQ(dialog->fields().price.text, typed.price.text);
-  EXPECT_EQ(dialog->fields().clientCode.text, typed.clientCode.text);
+  openBid(nseIssue(), GetParam().arrange);
+  GetParam().act(*dialog);
+  submitExpecting(GetParam().message, GetParam().focus);
 }
 
 const Arrange kBseWithoutCategories = [](sOFSCol& i, FakeHostState&) {
@@ -74,52 +56,47 @@ const Arrange kNoLot = [](sOFSCol& i, FakeHostState&) {
 INSTANTIATE_TEST_SUITE_P(
     Steps, NewBidSubmit,
     testing::Values(
-        SubmitCase{"bse_without_category", kBseWithoutCategories, kNoAct,
-                   "client category is not set for the selected AccountID"},
-        SubmitCase{"empty_quantity_before_price", kAsIs, typeEntry("", ""), "Please enter Quantity",
-                   "Quantity"},
-        SubmitCase{"issue_without_id", [](sOFSCol& i, FakeHostState&) { i.issueId = ""; }, kNoAct,
-                   "IssueID not found"},
-        SubmitCase{"empty_price", kAsIs, typePrice(""), "Please enter Price", "Price"},
-        SubmitCase{"zero_price", kAsIs, typePrice("0"), "Price cant be zero", "Price"},
-        SubmitCase{"zero_price_two_decimals", kAsIs, typePrice("0.00"), "Price cant be zero",
-                   "Price"},
-        SubmitCase{"zero_price_one_decimal", kAsIs, typePrice("0.0"), "Price cant be zero",
-                   "Price"},
-        SubmitCase{"three_paise_digits", kAsIs, typePrice("150.505"),
-                   "Please enter the paise correctly"},
-        SubmitCase{"below_minimum", kAsIs, typeQuantity("5"), "Order minimum Quantity is 10"},
-        SubmitCase{"above_issue_size", [](sOFSCol& i, FakeHostState&) { i.issueSize = 50; }, kNoAct,
-                   "Qty should be lesser than 50 (Issue Size) for this security"},
-        SubmitCase{"walkin_without_code", kAsIs, pickClientType("Walkin"),
-                   "Please select AccountId"},
-        SubmitCase{"account_the_host_does_not_know", kTwoAccounts,
-                   [](auto& d) { d.setClientCode("ZZ"); }, "Please select AccountId",
-                   "Client Code"},
-        SubmitCase{"no_account_among_several", kTwoAccounts, kNoAct, "Please select AccountId",
-                   "Client Code"},
-        SubmitCase{"pro_without_full_margin", kUserWithPCode, pickClientType("PRO"),
-                   "Margin Indicator should be set as 100% for PRO order"},
-        SubmitCase{"retail_amount", kAsIs, typeQuantity("2000"),
-                   "Amount cannot be greater than 200000 for RS series orders"},
-        SubmitCase{"non_retail_amount", [](sOFSCol& i, FakeHostState&) { i = nseIssue("IS"); },
-                   kNoAct, "Amount Should Exceed 500000 for IS series orders"},
-        SubmitCase{"pcode_with_non_institutional", kAccountWithPCode,
-                   [](auto& d) {
-                     d.selectOrderType("Non-institutional");
-                     d.setQuantity("4000");
-                   },
-                   "Client with Pcode cannot place order in Non-institutional Order."},
-        SubmitCase{"ten_digit_quantity", kNoLot, typeQuantity("1000000000"),
-                   "Qty. should not be more than 9 Digits"},
-        SubmitCase{"below_the_floor", kAsIs, typePrice("90"),
-                   "Price Should be more than Floor Price 100.0000", "Price"},
-        SubmitCase{"at_the_closing_second_nine_digits",
-                   [](sOFSCol& i, FakeHostState& h) {
-                     kNoLot(i, h);
-                     i.field67 = "10:00:00";
-                   },
-                   typeQuantity("999999999"), ""}));
+        Case{"bse_without_category", kBseWithoutCategories, kNoAct,
+             "client category is not set for the selected AccountID"},
+        Case{"empty_quantity_before_price", kAsIs, typeEntry("", ""), "Please enter Quantity",
+             "Quantity"},
+        Case{"issue_without_id", [](sOFSCol& i, FakeHostState&) { i.issueId = ""; }, kNoAct,
+             "IssueID not found"},
+        Case{"empty_price", kAsIs, typePrice(""), "Please enter Price", "Price"},
+        Case{"zero_price", kAsIs, typePrice("0"), "Price cant be zero", "Price"},
+        Case{"zero_price_two_decimals", kAsIs, typePrice("0.00"), "Price cant be zero", "Price"},
+        Case{"zero_price_one_decimal", kAsIs, typePrice("0.0"), "Price cant be zero", "Price"},
+        Case{"three_paise_digits", kAsIs, typePrice("150.505"), "Please enter the paise correctly"},
+        Case{"below_minimum", kAsIs, typeQuantity("5"), "Order minimum Quantity is 10"},
+        Case{"above_issue_size", [](sOFSCol& i, FakeHostState&) { i.issueSize = 50; }, kNoAct,
+             "Qty should be lesser than 50 (Issue Size) for this security"},
+        Case{"walkin_without_code", kAsIs, pickClientType("Walkin"), "Please select AccountId"},
+        Case{"account_the_host_does_not_know", kTwoAccounts, [](auto& d) { d.setClientCode("ZZ"); },
+             "Please select AccountId", "Client Code"},
+        Case{"no_account_among_several", kTwoAccounts, kNoAct, "Please select AccountId",
+             "Client Code"},
+        Case{"pro_without_full_margin", kUserWithPCode, pickClientType("PRO"),
+             "Margin Indicator should be set as 100% for PRO order"},
+        Case{"retail_amount", kAsIs, typeQuantity("2000"),
+             "Amount cannot be greater than 200000 for RS series orders"},
+        Case{"non_retail_amount", [](sOFSCol& i, FakeHostState&) { i = nseIssue("IS"); }, kNoAct,
+             "Amount Should Exceed 500000 for IS series orders"},
+        Case{"pcode_with_non_institutional", kAccountWithPCode,
+             [](auto& d) {
+               d.selectOrderType("Non-institutional");
+               d.setQuantity("4000");
+             },
+             "Client with Pcode cannot place order in Non-institutional Order."},
+        Case{"ten_digit_quantity", kNoLot, typeQuantity("1000000000"),
+             "Qty. should not be more than 9 Digits"},
+        Case{"below_the_floor", kAsIs, typePrice("90"),
+             "Price Should be more than Floor Price 100.0000", "Price"},
+        Case{"at_the_closing_second_nine_digits",
+             [](sOFSCol& i, FakeHostState& h) {
+               kNoLot(i, h);
+               i.field67 = "10:00:00";
+             },
+             typeQuantity("999999999"), ""}));
 
 TEST_F(NewBid, AnOrdinaryBidIsSentAndRememberedAndTheScreenResets) {
   openBid(nseIssue());

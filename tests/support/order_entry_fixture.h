@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include "orderentry/order_entry.h"
@@ -28,6 +29,18 @@ EntryAct typeEntry(const std::string& price, const std::string& quantity);
 EntryAct pickClientType(const std::string& entry);
 const EntryAct kNoAct = [](COrderEntryDlg&) {};
 
+// A row of a submit table: what is arranged before the screen opens, what the user then does,
+// and the refusal the submit must show (empty: it sends).
+template <class Arrange>
+struct SubmitCase {
+  const char* name;
+  Arrange arrange;
+  EntryAct act;
+  std::string message;
+  std::string focus = "";
+  friend void PrintTo(const SubmitCase& c, std::ostream* os) { *os << c.name; }
+};
+
 class OrderEntryFixture : public testing::Test {
  protected:
   OrderEntryFixture();
@@ -38,6 +51,9 @@ class OrderEntryFixture : public testing::Test {
   void start();
   COFSControlBlock& block() { return *controlBlock(); }
   RecordingPrompt& prompt() { return host.promptLog; }
+  // Submits. A refusal shows `message` alone, focuses `focus`, sends nothing and keeps what was
+  // typed and the mode; an empty `message` expects one send and no message.
+  void submitExpecting(const std::string& message, const std::string& focus);
   // The lines the receive controls sent since start().
   Lines sends() const;
 
