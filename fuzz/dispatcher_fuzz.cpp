@@ -15,9 +15,7 @@ namespace {
 // Alternates the add-issue right so that both sides of the right checks are reached.
 class Context : public StandaloneContext {
  public:
-  Context() {
-    depth = std::make_unique<MarketDepthState>(MarketDepthState{"nse_ipo", "ABC-RS", "NA", {}, 0});
-  }
+  Context() { depth = MarketDepthState{"nse_ipo", "ABC-RS", "NA", {}, 0}; }
   bool hasAddIssueRight() override { return addIssueRight = !addIssueRight; }
 };
 

@@ -1,9 +1,12 @@
-// A dispatch context with records and book lists and nothing else, for the programs that drive
-// the dispatcher without a host: benchmarks and fuzz harnesses. Header only, no test framework.
+// A dispatch context over real records and book lists that notes in one list of events what the
+// dispatcher told the host and the windows: tests read the events, benchmarks and fuzz harnesses
+// ignore them. Header only, no test framework.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "messaging/dispatch_context.h"
 
@@ -22,25 +25,38 @@ class StandaloneContext : public DispatchContext {
   OFSRecords& records() override { return store; }
   OrderBookLists& orderBook() override { return book; }
   MessageLayer& messageLayer() override { return layer; }
-  void tabbedLog(const std::string&) override {}
-  void messageBox(const std::string&) override {}
+  void tabbedLog(const std::string& line) override { events.push_back("log " + line); }
+  void messageBox(const std::string& text) override { events.push_back("msgbox " + text); }
   bool hasAddIssueRight() override { return addIssueRight; }
-  std::string defaultPCode() override { return "PC"; }
-  void storePeerData(const std::string&) override {}
-  void issueAdded(sOFSCol&) override {}
-  void assetFirstShown(const std::string&, const std::string&) override {}
-  void refreshWatchView() override {}
-  bool endIssueDialog() override { return true; }
-  void historyRowAdded(std::unique_ptr<sOFSOrderInfo>) override {}
-  void historyReplyEnded() override {}
-  MarketDepthState* marketDepth() override { return depth.get(); }
-  void marketDepthChanged() override {}
-  void handInstrumentToHost(const std::string&, const std::string&) override {}
+  std::string defaultPCode() override { return "DEFPC"; }
+  void storePeerData(const std::string& text) override { events.push_back("peer " + text); }
+  void issueAdded(sOFSCol& issue) override { events.push_back("issue added " + issue.symbol); }
+  void assetFirstShown(const std::string& exchange, const std::string& symbol) override {
+    events.push_back("asset shown " + exchange + " " + symbol);
+  }
+  void refreshWatchView() override { events.push_back("watch refreshed"); }
+  bool endIssueDialog() override {
+    events.push_back("issue dialog closed");
+    return dialogAdding;
+  }
+  void historyRowAdded(std::unique_ptr<sOFSOrderInfo> row) override {
+    history.push_back(std::move(row));
+  }
+  void historyReplyEnded() override { events.push_back("history ended"); }
+  MarketDepthState* marketDepth() override { return depth ? &*depth : nullptr; }
+  void marketDepthChanged() override { events.push_back("depth changed"); }
+  void handInstrumentToHost(const std::string& exchange, const std::string& symbol) override {
+    events.push_back("host gets " + exchange + " " + symbol);
+  }
 
   OFSRecords store;
   OrderBookLists book;
   SilentPrompt prompt;
   MessageLayer layer{connectvornOps(), prompt};
-  bool addIssueRight = true;
-  std::unique_ptr<MarketDepthState> depth;  // set: the Market Depth window is open
+  // What the dispatcher told the host and the windows, in order.
+  std::vector<std::string> events;
+  std::vector<std::unique_ptr<sOFSOrderInfo>> history;
+  std::optional<MarketDepthState> depth;  // set: the Market Depth window is open
+  bool addIssueRight = false;
+  bool dialogAdding = true;  // the issue dialog was adding an issue, not modifying one
 };
