@@ -4,6 +4,7 @@
 #include "messaging/placed_order_fill.h"
 #include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
+#include "tests/support/recording_prompt.h"
 
 namespace {
 
@@ -21,6 +22,7 @@ struct WordCase {
   FieldList second;
   std::string sOFSOrderInfo::*member;
   std::string expected;
+  friend void PrintTo(const WordCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class OrderWords : public testing::TestWithParam<WordCase> {};
@@ -51,8 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
                  &sOFSOrderInfo::pCode,
                  "NSEPC"},
         WordCase{"63058_over_12005", {{63058, "B"}, {12005, "A"}}, &sOFSOrderInfo::field12005, "B"},
-        WordCase{"absent_text_field_empties", {}, &sOFSOrderInfo::pCode, ""}),
-    [](const auto& info) { return info.param.name; });
+        WordCase{"absent_text_field_empties", {}, &sOFSOrderInfo::pCode, ""}));
 
 TEST(PlacedOrderFill, BseOrderTakesPCodeFrom64739AndMarketPriceFromTheTag) {
   auto message = makeMessage(
@@ -60,9 +61,7 @@ TEST(PlacedOrderFill, BseOrderTakesPCodeFrom64739AndMarketPriceFromTheTag) {
                "64170=NO"));
   sOFSOrderInfo order;
   fillPlacedOrder(MessageView(connectvornOps(), message.get()), order);
-  EXPECT_EQ(order.pCode, "BSEPC");
-  EXPECT_EQ(order.price, "MKT");
-  EXPECT_EQ(order.margin, "No Margin");
+  EXPECT_EQ((Lines{order.pCode, order.price, order.margin}), (Lines{"BSEPC", "MKT", "No Margin"}));
 }
 
 }  // namespace
