@@ -3,6 +3,7 @@
 #include "messaging/issue_fill.h"
 #include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
+#include "tests/support/recording_prompt.h"
 
 namespace {
 
@@ -12,18 +13,12 @@ TEST(IssueFill, MembersFromTheirFieldsWithNumericCopies) {
                "10027=4 63005=0.05 10100=ABC-RS 54730=ABCEQ 54571=N 61362=Y"));
   sOFSCol issue;
   fillIssue(MessageView(connectvornOps(), message.get()), issue);
-  EXPECT_EQ(issue.field3, "ABC");
-  EXPECT_EQ(issue.category, "Retail");
-  EXPECT_EQ(issue.field49165, "01/02/2026");
-  EXPECT_EQ(issue.field79, "03/02/2026");
-  EXPECT_EQ(issue.symbol, "ABC-RS");
-  EXPECT_EQ(issue.assetSymbol, "ABCEQ");
-  EXPECT_EQ(issue.biddingFlag, "N");
-  EXPECT_EQ(issue.modifyCancelFlag, "Y");
-  EXPECT_EQ(issue.minQuantity, 12);
-  EXPECT_EQ(issue.issueSize, 2500000.0);
-  EXPECT_EQ(issue.lotSizeText, "4");
-  EXPECT_EQ(issue.lotSize, 4);
+  EXPECT_EQ((Lines{issue.field3, issue.category, issue.field49165, issue.field79, issue.symbol,
+                   issue.assetSymbol, issue.biddingFlag, issue.modifyCancelFlag,
+                   std::to_string(issue.minQuantity), std::to_string(issue.issueSize),
+                   issue.lotSizeText, std::to_string(issue.lotSize)}),
+            (Lines{"ABC", "Retail", "01/02/2026", "03/02/2026", "ABC-RS", "ABCEQ", "N", "Y", "12",
+                   "2500000.000000", "4", "4"}));
   EXPECT_DOUBLE_EQ(issue.tickSize, 0.05);
 }
 

@@ -9,12 +9,8 @@ namespace {
 class MarketData : public testing::Test {
  protected:
   MarketData() {
-    context.depth = MarketDepthState{};
-    context.depth->exchange = "nse_ipo";
-    context.depth->symbol = "ABC-RS";
-    context.depth->lastUpdate = "10:00";
+    context.depth = MarketDepthState{"nse_ipo", "ABC-RS", "10:00", {}, 500};
     context.depth->levels[1] = {100, 50, 2};
-    context.depth->totalBidQuantity = 500;
   }
   RecordingDispatchContext context;
 };
@@ -22,13 +18,12 @@ class MarketData : public testing::Test {
 TEST_F(MarketData, DepthReplyFillsLevelsAndAddsTheQuantityChangeToTbq) {
   context.respond(
       fieldsOf("32767=mrv_master 63001=nse_ipo 10100=ABC-RS 55000=120 55500=30 56000=1 55501=70"));
-  const MarketDepthState& depth = *context.depth;
-  EXPECT_EQ(depth.lastUpdate, "NA");
-  EXPECT_EQ(depth.levels[0].price, 120);
-  EXPECT_EQ(depth.levels[1].price, 100);  // not in the message: unchanged
-  EXPECT_EQ(depth.levels[1].quantity, 70);
-  EXPECT_EQ(depth.levels[1].bids, 2);
-  EXPECT_EQ(depth.totalBidQuantity, 550);
+  const MarketDepthState& d = *context.depth;
+  EXPECT_EQ(d.lastUpdate, "NA");
+  // The second level's price and bids are not in the message: unchanged.
+  EXPECT_EQ((std::vector<int64_t>{d.levels[0].price, d.levels[1].price, d.levels[1].quantity,
+                                  d.levels[1].bids, d.totalBidQuantity}),
+            (std::vector<int64_t>{120, 100, 70, 2, 550}));
   EXPECT_EQ(context.events, (Lines{"depth changed", "host gets nse_ipo ABC-RS"}));
 }
 
@@ -52,12 +47,11 @@ TEST_F(MarketData, AssetPriceUsesTwoDecimalsByDefaultAndIsShownOnce) {
       fieldsOf("32767=mrv_master 63001=nse_cm 10100=ABC 6=12345 32760=Asset LTP");
   context.respond(reply);
   const sAssetInfo& asset = *context.store.assets["nse_cm|ABC"];
-  EXPECT_EQ(asset.ltp, 12345);
-  EXPECT_EQ(asset.decimals, 2);
-  EXPECT_EQ(asset.divisor, 100.0);
+  EXPECT_EQ((std::vector<double>{1.0 * asset.ltp, 1.0 * asset.decimals, asset.divisor}),
+            (std::vector<double>{12345, 2, 100}));
   context.update(fieldsOf("63001=nse_cm 10100=ABC 6=1234567 63050=4"));
-  EXPECT_EQ(asset.ltp, 1234567);
-  EXPECT_EQ(asset.divisor, 10000.0);
+  EXPECT_EQ((std::vector<double>{1.0 * asset.ltp, asset.divisor}),
+            (std::vector<double>{1234567, 10000}));
   context.respond(reply);
   EXPECT_EQ(asset.decimals, 2);
   EXPECT_EQ(context.events, (Lines{"asset shown nse_cm ABC"}));

@@ -4,6 +4,7 @@
 #include "messaging/placed_order_fill.h"
 #include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
+#include "tests/support/recording_prompt.h"
 
 namespace {
 
@@ -18,41 +19,36 @@ sOFSOrderInfo refill(const FieldList& first, const FieldList& second) {
 
 struct WordCase {
   const char* name;
-  FieldList second;
+  const char* second;
   std::string sOFSOrderInfo::*member;
   std::string expected;
+  friend void PrintTo(const WordCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class OrderWords : public testing::TestWithParam<WordCase> {};
 
 // A first report sets every converted field; the second one carries the case's fields.
 TEST_P(OrderWords, SecondFillKeepsOrReplacesTheWord) {
-  FieldList first{{64001, "17"}, {12008, "L"},       {64170, "YES"},
-                  {54056, "C"},  {63001, "nse_ipo"}, {10332, "PC1"}};
-  EXPECT_EQ(refill(first, GetParam().second).*GetParam().member, GetParam().expected);
+  const FieldList first = fieldsOf("64001=17 12008=L 64170=YES 54056=C 63001=nse_ipo 10332=PC1");
+  EXPECT_EQ(refill(first, fieldsOf(GetParam().second)).*GetParam().member, GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     ReportedOrder, OrderWords,
     testing::Values(
-        WordCase{"margin_no", {{64170, "NO"}}, &sOFSOrderInfo::margin, "No Margin"},
-        WordCase{"margin_other_keeps", {{64170, "yes"}}, &sOFSOrderInfo::margin, "100% Margin"},
-        WordCase{"margin_absent_keeps", {}, &sOFSOrderInfo::margin, "100% Margin"},
-        WordCase{"price_type_mkt", {{12008, "MKT"}}, &sOFSOrderInfo::priceType, "MKT"},
-        WordCase{"price_type_other_keeps", {{12008, "X"}}, &sOFSOrderInfo::priceType, "L"},
-        WordCase{"pro_cli_f", {{54056, "F"}}, &sOFSOrderInfo::proCliFlag, "F"},
-        WordCase{"pro_cli_other_keeps", {{54056, "P"}}, &sOFSOrderInfo::proCliFlag, "C"},
-        WordCase{"bse_pcode_from_13034",
-                 {{63001, "bse_ipo"}, {10332, "NSEPC"}, {13034, "BSEPC"}},
-                 &sOFSOrderInfo::pCode,
-                 "BSEPC"},
-        WordCase{"nse_pcode_from_10332",
-                 {{63001, "nse_ipo"}, {10332, "NSEPC"}, {13034, "BSEPC"}},
-                 &sOFSOrderInfo::pCode,
-                 "NSEPC"},
-        WordCase{"63058_over_12005", {{63058, "B"}, {12005, "A"}}, &sOFSOrderInfo::field12005, "B"},
-        WordCase{"absent_text_field_empties", {}, &sOFSOrderInfo::pCode, ""}),
-    [](const auto& info) { return info.param.name; });
+        WordCase{"margin_no", "64170=NO", &sOFSOrderInfo::margin, "No Margin"},
+        WordCase{"margin_other_keeps", "64170=yes", &sOFSOrderInfo::margin, "100% Margin"},
+        WordCase{"margin_absent_keeps", "", &sOFSOrderInfo::margin, "100% Margin"},
+        WordCase{"price_type_mkt", "12008=MKT", &sOFSOrderInfo::priceType, "MKT"},
+        WordCase{"price_type_other_keeps", "12008=X", &sOFSOrderInfo::priceType, "L"},
+        WordCase{"pro_cli_f", "54056=F", &sOFSOrderInfo::proCliFlag, "F"},
+        WordCase{"pro_cli_other_keeps", "54056=P", &sOFSOrderInfo::proCliFlag, "C"},
+        WordCase{"bse_pcode_from_13034", "63001=bse_ipo 10332=NSEPC 13034=BSEPC",
+                 &sOFSOrderInfo::pCode, "BSEPC"},
+        WordCase{"nse_pcode_from_10332", "63001=nse_ipo 10332=NSEPC 13034=BSEPC",
+                 &sOFSOrderInfo::pCode, "NSEPC"},
+        WordCase{"63058_over_12005", "63058=B 12005=A", &sOFSOrderInfo::field12005, "B"},
+        WordCase{"absent_text_field_empties", "", &sOFSOrderInfo::pCode, ""}));
 
 TEST(PlacedOrderFill, BseOrderTakesPCodeFrom64739AndMarketPriceFromTheTag) {
   auto message = makeMessage(
@@ -60,9 +56,7 @@ TEST(PlacedOrderFill, BseOrderTakesPCodeFrom64739AndMarketPriceFromTheTag) {
                "64170=NO"));
   sOFSOrderInfo order;
   fillPlacedOrder(MessageView(connectvornOps(), message.get()), order);
-  EXPECT_EQ(order.pCode, "BSEPC");
-  EXPECT_EQ(order.price, "MKT");
-  EXPECT_EQ(order.margin, "No Margin");
+  EXPECT_EQ((Lines{order.pCode, order.price, order.margin}), (Lines{"BSEPC", "MKT", "No Margin"}));
 }
 
 }  // namespace

@@ -58,8 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "Quantity : 4 Price : MKT PCode : PC2 "}},
         LogCase{"modification_without_issue_dropped",
                 "32767=om_modify_order_ofs 64001=17 63001=bse_ipo",
-                {}}),
-    [](const auto& info) { return info.param.name; });
+                {}}));
 
 TEST(PlacedOrders, KeptOnceWithTheIssueNumbers) {
   RecordingDispatchContext context;
@@ -70,10 +69,9 @@ TEST(PlacedOrders, KeptOnceWithTheIssueNumbers) {
   context.respond(row);
   EXPECT_EQ(context.store.placedOrderNumbers, (std::vector<std::string>{"17"}));
   const sOFSOrderInfo& placed = *context.store.placedOrders["17"];
-  EXPECT_EQ(placed.quantity, "10");
-  EXPECT_EQ(placed.issueTickSize, 5);
-  EXPECT_EQ(placed.issueMinQuantity, 10);
-  EXPECT_EQ(placed.issueLotSize, 25);
+  EXPECT_EQ((Lines{placed.quantity, std::to_string(placed.issueTickSize),
+                   std::to_string(placed.issueMinQuantity), std::to_string(placed.issueLotSize)}),
+            (Lines{"10", "5", "10", "25"}));
 }
 
 }  // namespace

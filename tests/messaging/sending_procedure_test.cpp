@@ -1,64 +1,42 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <string>
 
 #include "messaging/message_layer.h"
-#include "tests/support/fake_rx_control.h"
-#include "tests/support/recording_prompt.h"
 #include "tests/support/scripted_otp.h"
+#include "tests/support/test_channel.h"
 
 namespace {
 
 class SendingProcedure : public testing::Test {
  protected:
-  SendingProcedure() : layer(otp.ops(), prompt) {
-    int err = 0;
-    otp_open_scratch(&scratch, 32768, &err);
-    otp_ctor_primecb(&handle, &err);
-    layer.setHandles(handle, scratch);
-    layer.setControl(Control::First, &first);
-    layer.setControl(Control::Second, &second);
-  }
-  ~SendingProcedure() override {
-    int err = 0;
-    otp_dtor_primecb(&handle, &err);
-    otp_close_scratch(&scratch, &err, 0);
-  }
   static Request issueList() {
     Request r("om_get_ofs_issues", "om_get_ofs_issues is failed , ", Control::Second);
     r.add(63001, "nse_ipo").add(53065, "A");
     return r;
   }
+  const Lines& shown() const { return channel.prompt.messages(); }
 
   ScriptedOtp otp;
-  RecordingPrompt prompt;
-  FakeRxControl first{2, 1};
-  FakeRxControl second{0, 2};
-  MessageLayer layer;
-  otp_scratch_t scratch = nullptr;
-  otp_handle_t handle = nullptr;
+  TestChannel channel{otp.ops()};
 };
 
 // Order builders answer 0 on success where the others answer 1.
 TEST_F(SendingProcedure, SendsNameThenFieldsInOrderThroughTheNamedControl) {
-  EXPECT_EQ(layer.send(issueList()), 1);
-  EXPECT_EQ(layer.sendOrder(Request("om_get_ofs_category", "", Control::Second)), 0);
-  EXPECT_TRUE(prompt.messages().empty());
-  EXPECT_TRUE(first.lines().empty());
-  EXPECT_EQ(second.lines(), (Lines{"send 2 om_get_ofs_issues 63001=\"nse_ipo\" 53065=\"A\"",
-                                   "send 2 om_get_ofs_category"}));
+  EXPECT_EQ(channel.layer.send(issueList()), 1);
+  EXPECT_EQ(channel.layer.sendOrder(Request("om_get_ofs_category", "", Control::Second)), 0);
+  EXPECT_TRUE(shown().empty());
+  EXPECT_EQ(channel.transcript, (Lines{"send 2 om_get_ofs_issues 63001=\"nse_ipo\" 53065=\"A\"",
+                                       "send 2 om_get_ofs_category"}));
 }
 
 // One buffer serves every request: were it not emptied first, the second would not fit.
 TEST_F(SendingProcedure, EachRequestStartsFromAnEmptyBuffer) {
-  const std::string big(20000, '7');
   Request r("om_filter_order_ofs", "om_filter_order_ofs is failed , ", Control::Second);
-  r.add(64001, big);
-  EXPECT_EQ(layer.send(r), 1);
-  EXPECT_EQ(layer.send(r), 1);
-  EXPECT_TRUE(prompt.messages().empty());
-  EXPECT_EQ(second.lines().size(), 2u);
+  r.add(64001, std::string(20000, '7'));
+  EXPECT_EQ(channel.layer.send(r) + channel.layer.send(r), 2);
+  EXPECT_TRUE(shown().empty());
+  EXPECT_EQ(channel.transcript.size(), 2u);
 }
 
 struct FailureCase {
@@ -66,7 +44,7 @@ struct FailureCase {
   bool failStart;
   int failAddAt;
   bool failSend;
-  const char* text;
+  const char* step;
   size_t addsAttempted;
   friend void PrintTo(const FailureCase& c, std::ostream* os) { *os << c.name; }
 };
@@ -77,49 +55,35 @@ TEST_P(SendingFailure, ShowsPrefixAndStepSendsNothingAndReturnsTheContractValue)
   const FailureCase& c = GetParam();
   otp.failStart = c.failStart;
   otp.failAddAt = c.failAddAt;
-  second.failSends(c.failSend);
-
-  EXPECT_EQ(layer.send(issueList()), 1);
-  EXPECT_EQ(prompt.messages(), (Lines{c.text}));
+  channel.control(2).failSends(c.failSend);
+  const Lines failure{std::string("om_get_ofs_issues is failed , ") + c.step};
+  EXPECT_EQ(channel.layer.send(issueList()), 1);
+  EXPECT_EQ(shown(), failure);
   EXPECT_EQ(otp.added.size(), c.addsAttempted);
-  EXPECT_TRUE(second.lines().empty());
-
-  prompt.clear();
+  EXPECT_TRUE(channel.transcript.empty());
+  channel.prompt.clear();
   otp.added.clear();
-  EXPECT_EQ(layer.sendOrder(issueList()), 1);
-  EXPECT_EQ(prompt.messages(), (Lines{c.text}));
+  EXPECT_EQ(channel.layer.sendOrder(issueList()), 1);
+  EXPECT_EQ(shown(), failure);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Steps, SendingFailure,
-    testing::Values(FailureCase{"start", true, -1, false,
-                                "om_get_ofs_issues is failed , while starting message", 0},
-                    FailureCase{"name", false, 0, false,
-                                "om_get_ofs_issues is failed , while adding 0", 1},
-                    FailureCase{"first_field", false, 1, false,
-                                "om_get_ofs_issues is failed , while adding 63001", 2},
-                    FailureCase{"second_field", false, 2, false,
-                                "om_get_ofs_issues is failed , while adding 53065", 3},
-                    FailureCase{"send", false, -1, true,
-                                "om_get_ofs_issues is failed , while sending request", 3}),
-    [](const auto& info) { return info.param.name; });
+    testing::Values(FailureCase{"start", true, -1, false, "while starting message", 0},
+                    FailureCase{"name", false, 0, false, "while adding 0", 1},
+                    FailureCase{"first_field", false, 1, false, "while adding 63001", 2},
+                    FailureCase{"second_field", false, 2, false, "while adding 53065", 3},
+                    FailureCase{"send", false, -1, true, "while sending request", 3}));
 
-TEST_F(SendingProcedure, NoControlFailsAtTheSendStep) {
+TEST_F(SendingProcedure, NoControlFailsAtTheSendStepAndNoHandlesAtTheStartStep) {
+  channel.layer.setControl(Control::Fourth, nullptr);
   Request r("om_get_acct_info", "om_get_acct_info is failed , ", Control::Fourth);
-  EXPECT_EQ(layer.sendOrder(r), 1);
-  EXPECT_EQ(prompt.messages(), (Lines{"om_get_acct_info is failed , while sending request"}));
-}
-
-TEST(SendingWithoutHandles, EveryRequestFailsAtTheStartStep) {
-  RecordingPrompt prompt;
-  FakeRxControl control;
-  MessageLayer layer(connectvornOps(), prompt);
-  layer.setControl(Control::First, &control);
-  Request r("om_filter_order_ofs", "om_filter_order_ofs is failed , ", Control::First);
-  r.add(64001, "17");
-  EXPECT_EQ(layer.send(r), 1);
-  EXPECT_EQ(prompt.messages(), (Lines{"om_filter_order_ofs is failed , while starting message"}));
-  EXPECT_TRUE(control.lines().empty());
+  EXPECT_EQ(channel.layer.sendOrder(r), 1);
+  channel.layer.setHandles(nullptr, nullptr);
+  EXPECT_EQ(channel.layer.send(issueList()), 1);
+  EXPECT_EQ(shown(), (Lines{"om_get_acct_info is failed , while sending request",
+                            "om_get_ofs_issues is failed , while starting message"}));
+  EXPECT_TRUE(channel.transcript.empty());
 }
 
 }  // namespace

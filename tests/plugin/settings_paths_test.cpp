@@ -11,12 +11,7 @@
 namespace {
 
 TEST(WatchPlacement, ListsTopBeforeLeftAndBottomBeforeRight) {
-  WindowPlacement p;
-  p.left = 10;
-  p.top = 20;
-  p.right = 810;
-  p.bottom = 620;
-  p.showState = 3;
+  const WindowPlacement p{.top = 20, .left = 10, .bottom = 620, .right = 810, .showState = 3};
   EXPECT_EQ(formatPlacement(p), "20,10,620,810,-1,-1,-1,-1,3");
 }
 

@@ -23,3 +23,12 @@ inline std::vector<std::pair<uint32_t, std::string>> fieldsOf(const std::string&
   }
   return fields;
 }
+
+// The transcript line of a request, its fields written as for fieldsOf: wireLine("send 1
+// om_filter_order_ofs", "64001=17") is `send 1 om_filter_order_ofs 64001="17"`.
+inline std::string wireLine(const std::string& head, const std::string& fieldText) {
+  std::string line = head;
+  for (const auto& [id, value] : fieldsOf(fieldText))
+    line += " " + std::to_string(id) + "=\"" + value + "\"";
+  return line;
+}
