@@ -1,12 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
 #include <sstream>
 
-#include "host/sim/bid_checks.h"
 #include "host/sim/data_file.h"
-#include "host/sim/sim_dates.h"
 
 namespace simtest {
 namespace {
@@ -62,37 +58,6 @@ TEST(DataFile, QuotedValuesCommentsAndFieldsByNumber) {
   EXPECT_EQ(data->issues[0].get(49033), "ABC Ltd");
   EXPECT_EQ(data->issues[1].get(61002), "a \"b\"");
   EXPECT_EQ(data->issues[1].get(49165), "1/12/2026");
-}
-
-// The shipped file must load, and hold what the terminal's tabs and screens need to show.
-TEST(ShippedDataFile, LoadsWithIssuesOnEveryTabOfBothExchanges) {
-  std::string error;
-  const auto data = sim::readExchangeFile(SHIPPED_EXCHANGE_FILE, error);
-  ASSERT_TRUE(data) << error;
-  const int64_t today = *sim::parseDayText("21/11/2026");
-  std::set<std::string> seen;
-  for (const sim::Issue& issue : data->issues) {
-    const int64_t open = *sim::parseDayText(sim::resolveDate(issue.get(49165), today));
-    const int64_t close = *sim::parseDayText(sim::resolveDate(issue.get(79), today));
-    const char* tab = open > today ? "forthcoming" : close >= today ? "current" : "past";
-    seen.insert(issue.exchange() + " " + tab);
-    if (std::string(tab) == "current" && issue.get(54571) != "N") {
-      EXPECT_FALSE(sim::biddingRefusal(issue, today)) << issue.id();
-    }
-    const std::string cash = issue.exchange() == "bse_ipo" ? "bse_cm" : "nse_cm";
-    EXPECT_TRUE(std::any_of(
-        data->assets.begin(), data->assets.end(),
-        [&](const sim::Asset& a) { return a.exchange == cash && a.symbol == issue.get(54730); }))
-        << "no price for the asset of issue " << issue.id();
-  }
-  EXPECT_EQ(seen,
-            (std::set<std::string>{"bse_ipo current", "bse_ipo forthcoming", "bse_ipo past",
-                                   "nse_ipo current", "nse_ipo forthcoming", "nse_ipo past"}));
-  EXPECT_TRUE(std::any_of(data->accounts.begin(), data->accounts.end(),
-                          [](const sim::Account& a) { return a.pCode.empty(); }));
-  EXPECT_TRUE(std::any_of(data->accounts.begin(), data->accounts.end(),
-                          [](const sim::Account& a) { return !a.pCode.empty(); }));
-  EXPECT_FALSE(data->categories.empty());
 }
 
 }  // namespace
