@@ -119,6 +119,9 @@ TEST(WireMalformed, IsRefusedNotRead) {
       {"length_past_end", std::string("\x01\x01\x05"
                                       "abc",
                                       6)},
+      {"length_one_past_end", std::string("\x01\x01\x04"
+                                          "abc",
+                                          6)},
       {"truncated_length", std::string("\x01\x01\x80", 3)},
       {"overlong_id", std::string("\x81\x00\x01\x00", 4)}};
   for (const auto& [name, bytes] : cases) {
