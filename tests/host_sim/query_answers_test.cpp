@@ -97,13 +97,9 @@ TEST(Lookups, CategoriesPeerDataAndCompanyIssue) {
                    "reply asker get_company_ofs_issue"}));
 }
 
-TEST(MarketData, AssetPriceInUnitsOfItsDecimals) {
+// The price itself, in units of its decimals, is the sim watch script's underlying column.
+TEST(MarketData, NoPriceForAnUnknownAsset) {
   SimFixture f;
-  const auto asset = fieldsOf("63001=nse_cm 10100=ABC 20003=6 20003=63050 32760=Asset LTP");
-  EXPECT_EQ(describe(f, f.ask("mrv_master", asset), {63001, 10100, 6, 63050, 32766, 32760}),
-            (Lines{"reply asker mrv_master 63001=nse_cm 10100=ABC 6=24530 63050=2 "
-                   "32760=Asset LTP",
-                   "reply asker mrv_master 32766= 32760=Asset LTP"}));
   EXPECT_EQ(
       describe(f, f.ask("mrv_master", fieldsOf("63001=bse_cm 10100=ABC 32760=Asset LTP")), {32766}),
       (Lines{"reply asker mrv_master 32766=E211 32766=No market data for bse_cm ABC"}));
@@ -113,7 +109,7 @@ TEST(MarketData, DepthGroupsTheOpenLimitBidsBestFirst) {
   SimFixture f;
   // Open bids on N1: 501 10 @ 101.00, 502 20 @ 102.00, 503 15 at cut-off, 506 10 @ 103.00;
   // 504 is cancelled.
-  const auto out = f.ask("mrv_master", {{63001, "nse_ipo"}, {10100, "ABC-RS"}});
+  const auto out = f.ask("mrv_master", fieldsOf("63001=nse_ipo 10100=ABC-RS"));
   EXPECT_EQ(
       describe(f, out, {55000, 55500, 56000, 55001, 55501, 55002, 55502, 55003, 55503, 54283}),
       (Lines{"reply asker mrv_master 55000=10300 55500=10 56000=1 55001=10200 55501=20 "
