@@ -1,12 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
 #include <sstream>
 
-#include "host/sim/bid_checks.h"
 #include "host/sim/data_file.h"
-#include "host/sim/sim_dates.h"
 
 namespace simtest {
 namespace {
@@ -14,59 +10,42 @@ namespace {
 constexpr const char* kIssue =
     "issue id=1 exchange=nse_ipo symbol=ABC-RS open=-1 close=+1 company=\"ABC Ltd\"\n";
 
-std::string errorOf(const std::string& text) {
-  std::istringstream in(text);
-  std::string error;
-  EXPECT_FALSE(sim::readExchangeData(in, error)) << text;
-  return error;
-}
-
-struct BadLine {
-  const char* name;
-  std::string text;
-  const char* error;
-  friend void PrintTo(const BadLine& c, std::ostream* os) { *os << c.name; }
-};
-
-class DataFileRefusal : public testing::TestWithParam<BadLine> {};
-
-TEST_P(DataFileRefusal, NamesTheLineAndTheProblem) {
-  EXPECT_EQ(errorOf(GetParam().text), GetParam().error);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Loader, DataFileRefusal,
-    testing::Values(
-        BadLine{"open_quote", "account id=A1 name=\"Asha", "line 1: a quote is not closed"},
-        BadLine{"unknown_kind", "# comment\n\nbroker id=1", "line 3: unknown record kind broker"},
-        BadLine{"word_without_value", "account A1", "line 1: \"A1\" is not key=value"},
-        BadLine{"issue_without_close", "issue id=1 exchange=nse_ipo symbol=S open=0",
-                "line 1: issue needs field 79"},
-        BadLine{"issue_on_cash_segment", "issue id=1 exchange=nse_cm symbol=S open=0 close=0",
+TEST(DataFile, RefusesABadLineNamingItAndTheProblem) {
+  const std::string issue = kIssue;
+  const struct {
+    std::string text;
+    const char* error;
+  } cases[] = {{"account id=A1 name=\"Asha", "line 1: a quote is not closed"},
+               {"# comment\n\nbroker id=1", "line 3: unknown record kind broker"},
+               {"account A1", "line 1: \"A1\" is not key=value"},
+               {"issue id=1 exchange=nse_ipo symbol=S open=0", "line 1: issue needs field 79"},
+               {"issue id=1 exchange=nse_cm symbol=S open=0 close=0",
                 "line 1: issue exchange must be nse_ipo or bse_ipo"},
-        BadLine{"issue_date_in_words", "issue id=1 exchange=nse_ipo symbol=S open=today close=0",
+               {"issue id=1 exchange=nse_ipo symbol=S open=today close=0",
                 "line 1: issue dates are days from today (+3, -2, 0) or DD/MM/YYYY"},
-        BadLine{"issue_id_twice",
-                std::string(kIssue) + "issue id=1 exchange=bse_ipo symbol=X open=0 close=0",
+               {issue + "issue id=1 exchange=bse_ipo symbol=X open=0 close=0",
                 "line 2: issue 1 is there twice"},
-        BadLine{"symbol_twice",
-                std::string(kIssue) + "issue id=2 exchange=nse_ipo symbol=ABC-RS open=0 close=0",
+               {issue + "issue id=2 exchange=nse_ipo symbol=ABC-RS open=0 close=0",
                 "line 2: symbol ABC-RS is there twice"},
-        BadLine{"misspelt_issue_key", "issue id=1 exchange=nse_ipo symbol=S open=0 close=0 tik=1",
+               {"issue id=1 exchange=nse_ipo symbol=S open=0 close=0 tik=1",
                 "line 1: unknown key tik for issue"},
-        BadLine{"account_twice", "account id=A1\naccount id=A1",
-                "line 2: account A1 is there twice"},
-        BadLine{"asset_price_finer_than_decimals", "asset exchange=nse_cm symbol=ABC ltp=1.005",
+               {"account id=A1\naccount id=A1", "line 2: account A1 is there twice"},
+               {"asset exchange=nse_cm symbol=ABC ltp=1.005",
                 "line 1: asset ltp must be a price with at most 2 decimals"},
-        BadLine{"order_before_its_issue", "order no=1 issue=1 account=A1 qty=1 price=1",
+               {"order no=1 issue=1 account=A1 qty=1 price=1",
                 "line 1: order names issue 1, which no earlier line gives"},
-        BadLine{"order_for_account_and_walkin",
-                std::string(kIssue) + "order no=1 issue=1 account=A1 walkin=W1 qty=1 price=1",
+               {issue + "order no=1 issue=1 account=A1 walkin=W1 qty=1 price=1",
                 "line 2: order needs account= or walkin="},
-        BadLine{"order_price_in_paise_words",
-                std::string(kIssue) + "order no=1 issue=1 account=A1 qty=1 price=cheap",
-                "line 2: order price is rupees (101.50) or MKT"}),
-    [](const auto& info) { return std::string(info.param.name); });
+               {issue + "order no=1 issue=1 account=A1 qty=1 price=cheap",
+                "line 2: order price is rupees (101.50) or MKT"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.text);
+    std::istringstream in(c.text);
+    std::string error;
+    EXPECT_FALSE(sim::readExchangeData(in, error));
+    EXPECT_EQ(error, c.error);
+  }
+}
 
 TEST(DataFile, QuotedValuesCommentsAndFieldsByNumber) {
   std::istringstream in(std::string(kIssue) +
@@ -79,37 +58,6 @@ TEST(DataFile, QuotedValuesCommentsAndFieldsByNumber) {
   EXPECT_EQ(data->issues[0].get(49033), "ABC Ltd");
   EXPECT_EQ(data->issues[1].get(61002), "a \"b\"");
   EXPECT_EQ(data->issues[1].get(49165), "1/12/2026");
-}
-
-// The shipped file must load, and hold what the terminal's tabs and screens need to show.
-TEST(ShippedDataFile, LoadsWithIssuesOnEveryTabOfBothExchanges) {
-  std::string error;
-  const auto data = sim::readExchangeFile(SHIPPED_EXCHANGE_FILE, error);
-  ASSERT_TRUE(data) << error;
-  const int64_t today = *sim::parseDayText("21/11/2026");
-  std::set<std::string> seen;
-  for (const sim::Issue& issue : data->issues) {
-    const int64_t open = *sim::parseDayText(sim::resolveDate(issue.get(49165), today));
-    const int64_t close = *sim::parseDayText(sim::resolveDate(issue.get(79), today));
-    const char* tab = open > today ? "forthcoming" : close >= today ? "current" : "past";
-    seen.insert(issue.exchange() + " " + tab);
-    if (std::string(tab) == "current" && issue.get(54571) != "N") {
-      EXPECT_FALSE(sim::biddingRefusal(issue, today)) << issue.id();
-    }
-    const std::string cash = issue.exchange() == "bse_ipo" ? "bse_cm" : "nse_cm";
-    EXPECT_TRUE(std::any_of(
-        data->assets.begin(), data->assets.end(),
-        [&](const sim::Asset& a) { return a.exchange == cash && a.symbol == issue.get(54730); }))
-        << "no price for the asset of issue " << issue.id();
-  }
-  EXPECT_EQ(seen,
-            (std::set<std::string>{"bse_ipo current", "bse_ipo forthcoming", "bse_ipo past",
-                                   "nse_ipo current", "nse_ipo forthcoming", "nse_ipo past"}));
-  EXPECT_TRUE(std::any_of(data->accounts.begin(), data->accounts.end(),
-                          [](const sim::Account& a) { return a.pCode.empty(); }));
-  EXPECT_TRUE(std::any_of(data->accounts.begin(), data->accounts.end(),
-                          [](const sim::Account& a) { return !a.pCode.empty(); }));
-  EXPECT_FALSE(data->categories.empty());
 }
 
 }  // namespace

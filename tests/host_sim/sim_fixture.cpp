@@ -2,6 +2,7 @@
 
 #include "tests/support/local_time.h"
 
+#include <algorithm>
 #include <ctime>
 #include <sstream>
 #include <stdexcept>
@@ -68,6 +69,22 @@ sim::Deliveries SimFixture::ask(const std::string& name, const FieldList& fields
 void SimFixture::subscribeListeners() {
   exchange.subscribe({{31003, "U1"}, {63001, "nse_ipo"}, {64001, ""}}, &listener);
   exchange.subscribe({{31003, "U1"}, {63001, "bse_ipo"}, {64001, ""}}, &bseListener);
+}
+
+FieldList placement(const std::string& changes) {
+  FieldList fields = fieldsOf(
+      "64030=CNC 63001=nse_ipo 31003=U1 54001=A2 63100=N1 12004=10 12008=L 10306=10150 54056=C "
+      "64170=YES 12005=OFS");
+  for (const auto& change : fieldsOf(changes)) {
+    const uint32_t id = change.first;
+    auto it = std::find_if(fields.begin(), fields.end(), [id](auto& f) { return f.first == id; });
+    if (it == fields.end()) {
+      fields.push_back(change);
+    } else {
+      it->second = change.second;
+    }
+  }
+  return fields;
 }
 
 std::vector<std::string> values(const sim::Delivery& d, uint32_t id) {

@@ -49,6 +49,9 @@ class SimFixture {
   NullNotifier bseListener;
 };
 
+// A placement of 10 @ 101.50 on N1 for A2 by U1, with `changes` ("12004=5 10306=") over it.
+FieldList placement(const std::string& changes);
+
 // One line a message: "reply" or "live", who gets it (asker, listener, bse), the name, then
 // `id=value` for each wanted field present, every occurrence.
 Lines describe(const SimFixture& f, const sim::Deliveries& out, const std::vector<uint32_t>& ids);

@@ -6,36 +6,32 @@
 namespace simtest {
 namespace {
 
-struct CoverCase {
-  const char* name;
-  KeyValues keys;
-  bool covers;
-  friend void PrintTo(const CoverCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class SubscriptionCover : public testing::TestWithParam<CoverCase> {};
-
-TEST_P(SubscriptionCover, OfAnNseOrderOfAccountA1) {
-  NullNotifier n;
-  sim::Subscriptions subs;
-  subs.add(GetParam().keys, &n);
+sim::Order nseOrderOfA1() {
   sim::Order order;
   order.exchange = "nse_ipo";
   order.account = "A1";
-  EXPECT_EQ(subs.covering(order).size(), GetParam().covers ? 1u : 0u);
+  return order;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Subscriptions, SubscriptionCover,
-    testing::Values(
-        CoverCase{"order_broadcast", {{31003, "U1"}, {63001, "nse_ipo"}, {64001, ""}}, true},
-        CoverCase{"other_exchange", {{31003, "U1"}, {63001, "bse_ipo"}, {64001, ""}}, false},
-        CoverCase{"client_overview_of_the_account", {{54001, "A1"}, {63001, "nse_ipo"}}, true},
-        CoverCase{"client_overview_of_another", {{54001, "A2"}, {63001, "nse_ipo"}}, false},
-        CoverCase{"market_price", {{63001, "nse_cm"}, {10100, "ABC"}}, false},
-        CoverCase{"issue_price_feed", {{63001, "nse_ipo"}, {10100, "ABC-RS"}}, false},
-        CoverCase{"without_exchange", {{31003, "U1"}}, false}),
-    [](const auto& info) { return std::string(info.param.name); });
+TEST(Subscriptions, CoverAnOrderByUserOrAccountOnItsExchangeOnly) {
+  const struct {
+    const char* keys;
+    bool covers;
+  } cases[] = {{"31003=U1 63001=nse_ipo 64001=", true},
+               {"31003=U1 63001=bse_ipo 64001=", false},
+               {"54001=A1 63001=nse_ipo", true},
+               {"54001=A2 63001=nse_ipo", false},
+               {"63001=nse_cm 10100=ABC", false},
+               {"63001=nse_ipo 10100=ABC-RS", false},
+               {"31003=U1", false}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.keys);
+    NullNotifier n;
+    sim::Subscriptions subs;
+    subs.add(fieldsOf(c.keys), &n);
+    EXPECT_EQ(subs.covering(nseOrderOfA1()).size(), c.covers ? 1u : 0u);
+  }
+}
 
 TEST(Subscriptions, EachNotifierHearsOnceAndNotAfterItIsForgotten) {
   NullNotifier first, second;
@@ -45,50 +41,39 @@ TEST(Subscriptions, EachNotifierHearsOnceAndNotAfterItIsForgotten) {
   subs.add({{54001, "A1"}, {63001, "nse_ipo"}}, &first);
   subs.add({{54001, "A1"}, {63001, "nse_ipo"}}, &first);
   EXPECT_EQ(subs.size(), 3u);
-  sim::Order order;
-  order.exchange = "nse_ipo";
-  order.account = "A1";
-  EXPECT_EQ(subs.covering(order), (std::vector<IIrbeNotifier*>{&first, &second}));
+  EXPECT_EQ(subs.covering(nseOrderOfA1()), (std::vector<IIrbeNotifier*>{&first, &second}));
   subs.forget(&first);
-  EXPECT_EQ(subs.covering(order), (std::vector<IIrbeNotifier*>{&second}));
+  EXPECT_EQ(subs.covering(nseOrderOfA1()), (std::vector<IIrbeNotifier*>{&second}));
 }
 
-FieldList issueAdd(const std::string& floor) {
+FieldList issueAdd(const std::string& symbol, const std::string& floor) {
   return fieldsOf("63001=nse_ipo 3=NEW 10610=RS 63022=" + floor +
-                  " 49165=21/11/2026 79=21/11/2026 55=1 10027=1 63005=0.05 10100=NEW-RS 54730= "
-                  "54571=Y 32760=NEW-RS 32760=Normal End");
+                  " 49165=21/11/2026 79=21/11/2026 55=1 10027=1 63005=0.05 10100=" + symbol +
+                  " 54730= 54571=Y 32760=NEW-RS 32760=Normal End");
 }
 
-TEST(IssueAdministration, AddingCreatesThenUpdatesTheIssueOfThatSymbol) {
+TEST(IssueAdministration, AddingUpdatesTheIssueOfThatSymbolOrCreatesOneWithTheNextId) {
   SimFixture f;
-  EXPECT_EQ(describe(f, f.ask("om_add_ofs_issue", issueAdd("10.00")), {32766, 32760}),
+  EXPECT_EQ(describe(f, f.ask("om_add_ofs_issue", issueAdd("NEW-RS", "10.00")), {32766, 32760}),
             (Lines{"reply asker om_add_ofs_issue 32766= 32760=NEW-RS 32760=Normal End"}));
-  f.ask("om_add_ofs_issue", issueAdd("12.00"));
   // N4 already lists NEW-RS on nse_ipo: that issue is the one changed.
-  EXPECT_EQ(describe(f, f.ask("om_get_ofs_issues", {{63001, "nse_ipo"}}), {63032, 63022, 10100}),
-            (Lines{"reply asker om_get_ofs_issues 63032=N1 63022=100.00 10100=ABC-RS",
-                   "reply asker om_get_ofs_issues 63032=N2 63022=100.00 10100=ABC-IS",
-                   "reply asker om_get_ofs_issues 63032=N3 63022=10.00 10100=OLD-RS",
-                   "reply asker om_get_ofs_issues 63032=N4 63022=12.00 10100=NEW-RS",
-                   "reply asker om_get_ofs_issues 63032=N5 63022=10.00 10100=HLD-IS",
-                   "reply asker om_get_ofs_issues"}));
-}
-
-TEST(IssueAdministration, NewSymbolGetsTheNextId) {
-  SimFixture f;
-  FieldList add = issueAdd("10.00");
-  add[9].second = "FRESH-RS";
-  f.ask("om_add_ofs_issue", add);
-  const auto out = f.ask("om_get_ofs_issues", {{63001, "nse_ipo"}});
-  ASSERT_EQ(out.size(), 7u);
-  EXPECT_EQ(value(out[5], 63032), "1");
-  EXPECT_EQ(value(out[5], 10100), "FRESH-RS");
+  f.ask("om_add_ofs_issue", issueAdd("NEW-RS", "12.00"));
+  f.ask("om_add_ofs_issue", issueAdd("FRESH-RS", "10.00"));
+  EXPECT_EQ(
+      describe(f, f.ask("om_get_ofs_issues", fieldsOf("63001=nse_ipo")), {63032, 63022, 10100}),
+      (Lines{"reply asker om_get_ofs_issues 63032=N1 63022=100.00 10100=ABC-RS",
+             "reply asker om_get_ofs_issues 63032=N2 63022=100.00 10100=ABC-IS",
+             "reply asker om_get_ofs_issues 63032=N3 63022=10.00 10100=OLD-RS",
+             "reply asker om_get_ofs_issues 63032=N4 63022=12.00 10100=NEW-RS",
+             "reply asker om_get_ofs_issues 63032=N5 63022=10.00 10100=HLD-IS",
+             "reply asker om_get_ofs_issues 63032=1 63022=10.00 10100=FRESH-RS",
+             "reply asker om_get_ofs_issues"}));
 }
 
 TEST(IssueAdministration, CancellingUnallottedOrdersClosesTheOpenOnesOfTheIssue) {
   SimFixture f;
   f.subscribeListeners();
-  EXPECT_EQ(describe(f, f.ask("om_delete_unalloted_ofs_issue", {{63001, "nse_ipo"}, {3, "N1"}}),
+  EXPECT_EQ(describe(f, f.ask("om_delete_unalloted_ofs_issue", fieldsOf("63001=nse_ipo 3=N1")),
                      {32766, 64001, 64655}),
             (Lines{"reply asker om_delete_unalloted_ofs_issue 32766=",
                    "live listener om_delete_unalloted_ofs_issue 64001=501 64655=cancelled",
@@ -96,7 +81,7 @@ TEST(IssueAdministration, CancellingUnallottedOrdersClosesTheOpenOnesOfTheIssue)
                    "live listener om_delete_unalloted_ofs_issue 64001=503 64655=cancelled",
                    "live listener om_delete_unalloted_ofs_issue 64001=506 64655=cancelled"}));
   EXPECT_EQ(
-      describe(f, f.ask("om_delete_unalloted_ofs_issue", {{63001, "bse_ipo"}, {3, "N1"}}), {32766}),
+      describe(f, f.ask("om_delete_unalloted_ofs_issue", fieldsOf("63001=bse_ipo 3=N1")), {32766}),
       (Lines{"reply asker om_delete_unalloted_ofs_issue 32766=E200 32766=Issue N1 is not "
              "known"}));
 }
