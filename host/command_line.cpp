@@ -45,9 +45,6 @@ std::optional<int> parseCommandLine(int argc, const char* const* argv, Options& 
                "vorntrader"};
   app.allow_extras();
   app.footer("Qt's own single-dash options (-platform NAME, -style NAME, -reverse, ...) go to Qt.");
-  // --user and --kind each restate the other half of the login as a fresh host has it (so
-  // `--user X` sets kind 3 and `--kind N` sets user U1), as the terminal always did.
-  const HostState fresh;
   auto setting = [&](const std::string& name, const std::string& type, const std::string& help,
                      auto words) {
     app.add_option_function<std::string>(
@@ -68,11 +65,11 @@ std::optional<int> parseCommandLine(int argc, const char* const* argv, Options& 
       ->type_name("FILE");
   app.add_option("--home", o.home, "Users' directories under DIR, not the XDG data folder")
       ->type_name("DIR");
-  setting("--user", "ID", "Logged-in user id", [&fresh](const std::string& v) {
-    return std::vector<std::string>{"user", v, "kind", std::to_string(fresh.loginKind)};
+  setting("--user", "ID", "Logged-in user id", [](const std::string& v) {
+    return std::vector<std::string>{"user", v};
   });
-  setting("--kind", "N", "Login kind", [&fresh](const std::string& v) {
-    return std::vector<std::string>{"user", fresh.user, "kind", v};
+  setting("--kind", "N", "Login kind", [](const std::string& v) {
+    return std::vector<std::string>{"kind", v};
   });
   setting("--right", "NAME", "Grant this right (repeatable)", [](const std::string& v) {
     return std::vector<std::string>{"right", v, "on"};

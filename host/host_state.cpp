@@ -27,6 +27,15 @@ std::optional<int64_t> parseHostTime(const std::string& date, const std::string&
   return static_cast<int64_t>(std::mktime(&tm));
 }
 
+std::string HostState::setLoginKind(const std::string& text) {
+  try {
+    loginKind = static_cast<uint32_t>(std::stoul(text));
+  } catch (...) {
+    return "login kind must be a number";
+  }
+  return {};
+}
+
 std::string HostState::apply(const std::vector<std::string>& w) {
   std::lock_guard lock(mutex);
   if (w.empty()) return "host needs a setting";
@@ -34,15 +43,10 @@ std::string HostState::apply(const std::vector<std::string>& w) {
   if (what == "user") {
     if (w.size() != 2 && !(w.size() == 4 && w[2] == "kind")) return "expected: user ID [kind K]";
     user = w[1];
-    if (w.size() == 4) {
-      try {
-        loginKind = static_cast<uint32_t>(std::stoul(w[3]));
-      } catch (...) {
-        return "login kind must be a number";
-      }
-    }
-    return {};
+    return w.size() == 4 ? setLoginKind(w[3]) : std::string();
   }
+  // The command line's --kind: the login kind alone, whoever the user is by then.
+  if (what == "kind") return w.size() == 2 ? setLoginKind(w[1]) : "expected: kind K";
   if (what == "right") {
     if (w.size() != 3 || (w[2] != "on" && w[2] != "off")) return "expected: right NAME on|off";
     rights[w[1]] = w[2] == "on";

@@ -33,6 +33,7 @@ struct HostState {
   // A `host` line without its verb: "user U1 kind 3", "right \"X\" on", ... Empty on success,
   // otherwise what is wrong with it.
   std::string apply(const std::vector<std::string>& words);
+  std::string setLoginKind(const std::string& text);
   // The directory of the user in force now; empty when there is none. The caller holds `mutex`.
   std::string currentUserDirectory() const;
 
