@@ -71,26 +71,13 @@ INSTANTIATE_TEST_SUITE_P(
         PlacementCase{"upper_case_month_is_no_month", "01/11/2026", "30-NOV-2026",
                       WatchTab::Past}));
 
-struct DateCase {
-  const char* text;
-  bool valid;
-  friend void PrintTo(const DateCase& c, std::ostream* os) { *os << (*c.text ? c.text : "empty"); }
-};
-
-class IssueDate : public testing::TestWithParam<DateCase> {};
-
-TEST_P(IssueDate, RefusesDaysTheMonthDoesNotHave) {
-  EXPECT_EQ(parseIssueDate(GetParam().text) != -1, GetParam().valid) << GetParam().text;
+TEST(IssueDate, RefusesDaysTheMonthDoesNotHave) {
+  for (const char* valid : {"29/02/2024", "29/02/2000", "30/06/2026", "31/12/2026"})
+    EXPECT_NE(parseIssueDate(valid), -1) << valid;
+  for (const char* refused : {"29/02/2025", "29/02/1900", "31/06/2026", "32/12/2026", "10/13/2026",
+                              "", "abc", "10-Foo-2026"})
+    EXPECT_EQ(parseIssueDate(refused), -1) << refused;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Days, IssueDate,
-    testing::Values(DateCase{"29/02/2024", true}, DateCase{"29/02/2025", false},
-                    DateCase{"29/02/2000", true}, DateCase{"29/02/1900", false},
-                    DateCase{"31/06/2026", false}, DateCase{"30/06/2026", true},
-                    DateCase{"31/12/2026", true}, DateCase{"32/12/2026", false},
-                    DateCase{"10/13/2026", false}, DateCase{"", false}, DateCase{"abc", false},
-                    DateCase{"10-Foo-2026", false}));
 
 TEST_F(WatchViewTest, NewestIssueStandsOnTopAndTheSelectionFollowsItsRow) {
   view().addIssue(issue("I1", "01/11/2026", "30/11/2026"));
