@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <ostream>
+#include <tuple>
 
 #include "tests/support/order_entry_fixture.h"
 
@@ -21,81 +22,51 @@ class Reactions : public OrderEntryFixture {
   const OrderEntryFields& f() const { return dialog->fields(); }
 };
 
-struct FilterCase {
-  const char* name;
-  bool (COrderEntryDlg::*type)(const std::string&);
-  EntryText OrderEntryFields::*field;
-  const char* text;
-  bool accepted;
-  friend void PrintTo(const FilterCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class InputFilters : public Reactions, public testing::WithParamInterface<FilterCase> {};
-
-TEST_P(InputFilters, AcceptOnlyTheirCharacters) {
-  const FilterCase& c = GetParam();
+TEST_F(Reactions, EachFieldAcceptsOnlyItsCharacters) {
+  using D = COrderEntryDlg;
+  using F = OrderEntryFields;
+  const std::vector<std::tuple<bool (D::*)(const std::string&), EntryText F::*, const char*, bool>>
+      typed{{&D::setQuantity, &F::quantity, "0123", true},
+            {&D::setQuantity, &F::quantity, "1.5", false},
+            {&D::setQuantity, &F::quantity, "12a", false},
+            {&D::setPrice, &F::price, "12.50", true},
+            {&D::setPrice, &F::price, "12,5", false},
+            {&D::setPrice, &F::price, "MKT", false},
+            {&D::setWalkinClientCode, &F::walkinClientCode, "AU12", true},
+            {&D::setWalkinClientCode, &F::walkinClientCode, "AQ1", false},
+            {&D::setWalkinParticipantCode, &F::walkinParticipantCode, "PU1", true},
+            {&D::setWalkinParticipantCode, &F::walkinParticipantCode, "PQ", false}};
   openOn(nseIssue());
   dialog->selectClientType("Walkin");
-  EXPECT_EQ(((*dialog).*c.type)(c.text), c.accepted);
-  EXPECT_EQ((f().*c.field).text, c.accepted ? c.text : "");
+  for (const auto& [type, field, text, accepted] : typed) {
+    const std::string before = (f().*field).text;
+    EXPECT_EQ(((*dialog).*type)(text), accepted) << text;
+    EXPECT_EQ((f().*field).text, accepted ? text : before) << text;
+  }
 }
 
-using D = COrderEntryDlg;
-using F = OrderEntryFields;
-
-INSTANTIATE_TEST_SUITE_P(
-    Fields, InputFilters,
-    testing::Values(
-        FilterCase{"quantity_digits", &D::setQuantity, &F::quantity, "0123", true},
-        FilterCase{"quantity_point", &D::setQuantity, &F::quantity, "1.5", false},
-        FilterCase{"quantity_letter", &D::setQuantity, &F::quantity, "12a", false},
-        FilterCase{"price_decimal", &D::setPrice, &F::price, "12.50", true},
-        FilterCase{"price_comma", &D::setPrice, &F::price, "12,5", false},
-        FilterCase{"price_mkt_is_not_typed", &D::setPrice, &F::price, "MKT", false},
-        FilterCase{"walkin_code", &D::setWalkinClientCode, &F::walkinClientCode, "AU12", true},
-        FilterCase{"walkin_code_q", &D::setWalkinClientCode, &F::walkinClientCode, "AQ1", false},
-        FilterCase{"walkin_pcode", &D::setWalkinParticipantCode, &F::walkinParticipantCode, "PU1",
-                   true},
-        FilterCase{"walkin_pcode_q", &D::setWalkinParticipantCode, &F::walkinParticipantCode, "PQ",
-                   false}));
-
-struct ClientTypeCase {
-  const char* name;
-  const char* series;
-  Strings accounts;
-  const char* clientType;
-  EntryText clientCode;
-  bool walkinShown;
-  bool participantCodeEnabled;
-  friend void PrintTo(const ClientTypeCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class ClientType : public Reactions, public testing::WithParamInterface<ClientTypeCase> {};
-
-TEST_P(ClientType, ShowsTheFieldsOfItsKind) {
-  const ClientTypeCase& c = GetParam();
-  openOn(nseIssue(c.series), c.accounts);
-  dialog->selectClientType(c.clientType);
-  EXPECT_EQ(f().clientCode.text, c.clientCode.text);
-  EXPECT_EQ(f().clientCode.enabled, c.clientCode.enabled);
-  EXPECT_EQ(f().clientCode.visible, c.clientCode.visible);
-  EXPECT_EQ(f().clientSearchEnabled, c.clientCode.enabled);
-  EXPECT_EQ(f().walkinClientCode.visible, c.walkinShown);
-  EXPECT_EQ(f().walkinParticipantCode.visible, c.walkinShown);
-  EXPECT_EQ(f().participantCode.enabled, c.participantCodeEnabled);
+// Client type, series and accounts: code text/enabled/visible, walk-in fields, participant list.
+TEST_F(Reactions, EachClientTypeShowsTheFieldsOfItsKind) {
+  const std::vector<std::tuple<const char*, Strings, const char*, const char*>> kinds{
+      {"RS", {"A1"}, "CLI", "A1 disabled shown, no walk-in, no pcode"},
+      {"RS", {"A1", "A2"}, "CLI", " enabled shown, no walk-in, no pcode"},
+      {"IS", {"A1", "A2"}, "CLI", " enabled shown, no walk-in, pcode"},
+      {"IS", {"A1", "A2"}, "PRO", "U1 disabled shown, no walk-in, no pcode"},
+      {"RS", {"A1"}, "Walkin", " disabled hidden, walk-in, no pcode"}};
+  for (const auto& [series, accounts, type, shows] : kinds) {
+    openOn(nseIssue(series), accounts);
+    dialog->selectClientType(type);
+    const OrderEntryFields& x = f();
+    EXPECT_EQ(x.clientSearchEnabled, x.clientCode.enabled) << type;
+    EXPECT_EQ(x.walkinClientCode.visible, x.walkinParticipantCode.visible) << type;
+    EXPECT_EQ(x.clientCode.text + (x.clientCode.enabled ? " enabled" : " disabled") +
+                  (x.clientCode.visible ? " shown" : " hidden") +
+                  (x.walkinClientCode.visible ? ", walk-in" : ", no walk-in") +
+                  (x.participantCode.enabled ? ", pcode" : ", no pcode"),
+              shows)
+        << series << " " << type;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, ClientType,
-    testing::Values(
-        ClientTypeCase{"cli_one_account", "RS", {"A1"}, "CLI", {"A1", false, true}, false, false},
-        ClientTypeCase{
-            "cli_several_accounts", "RS", {"A1", "A2"}, "CLI", {"", true, true}, false, false},
-        ClientTypeCase{
-            "cli_non_retail_series", "IS", {"A1", "A2"}, "CLI", {"", true, true}, false, true},
-        ClientTypeCase{
-            "pro_is_the_user", "IS", {"A1", "A2"}, "PRO", {"U1", false, true}, false, false},
-        ClientTypeCase{"walkin", "RS", {"A1"}, "Walkin", {"", false, false}, true, false}));
 
 TEST_F(Reactions, AnNseBidOffersThreeClientTypesAndNoCategory) {
   openOn(nseIssue());
