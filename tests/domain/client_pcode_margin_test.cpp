@@ -1,13 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <ostream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "domain/client_rules.h"
 
 namespace {
+
+using Words = std::vector<std::string>;
 
 TEST(MarginChoices, ListsAndSelects) {
   using V = std::vector<std::string>;
@@ -22,65 +24,40 @@ TEST(MarginChoices, ListsAndSelects) {
   expect(bseMarginChoices("Non-institutional", "P1"), full, "100% Margin");
 }
 
-struct AccountCase {
-  std::string name;
-  std::string exchange, series, orderType, pCode;
-  AccountVerdict verdict;
-  std::string message;
-  friend void PrintTo(const AccountCase& c, std::ostream* os) { *os << c.name; }
-};
-using A = AccountCase;
-using V = AccountVerdict;
-
-const char kNoRetail[] = "Client with Pcode Cannot Place Retail Orders";
-
-class AccountPCode : public testing::TestWithParam<AccountCase> {};
-
-TEST_P(AccountPCode, DecidesOnChoosingTheAccount) {
-  const AccountCase& c = GetParam();
-  std::string message;
-  EXPECT_EQ(checkAccountPCode(c.exchange, c.series, c.orderType, c.pCode, message), c.verdict);
-  EXPECT_EQ(message, c.message);
+TEST(AccountPCode, DecidesOnChoosingTheAccount) {
+  using V = AccountVerdict;
+  const std::string noRetail = "Client with Pcode Cannot Place Retail Orders";
+  // exchange, series, order type, pcode: verdict and message
+  const std::vector<std::tuple<Words, V, std::string>> cases{
+      {{"NSEIPO", "ES", "", "P1"}, V::Refuse, noRetail},
+      {{"NSEIPO", "RS", "", ""}, V::Accept, ""},
+      {{"BSEIPO", "NonRetail", "Institutional", "P1"}, V::Accept, ""},
+      {{"BSEIPO", "RS", "Retail", "P1"}, V::Accept, ""}};  // an NSE series on BSE
+  for (const auto& [w, verdict, text] : cases) {
+    std::string message;
+    EXPECT_EQ(checkAccountPCode(w[0], w[1], w[2], w[3], message), verdict) << w[1];
+    EXPECT_EQ(message, text) << w[1];
+  }
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Accounts, AccountPCode, testing::Values(
-    A{"NseEmployee", "NSEIPO", "ES", "", "P1", V::Refuse, kNoRetail},
-    A{"NseNoPCode", "NSEIPO", "RS", "", "", V::Accept, ""},
-    A{"BseInstitutional", "BSEIPO", "NonRetail", "Institutional", "P1", V::Accept, ""},
-    A{"NseSeriesOnBse", "BSEIPO", "RS", "Retail", "P1", V::Accept, ""}));
-// clang-format on
-
-struct SubmitCase {
-  std::string name;
-  std::function<bool(std::string&)> check;
-  std::string message;  // empty when the bid passes
-  friend void PrintTo(const SubmitCase& c, std::ostream* os) { *os << c.name; }
-};
-using S = SubmitCase;
-
-class SubmitCheck : public testing::TestWithParam<SubmitCase> {};
-
-TEST_P(SubmitCheck, RefusesWithItsText) {
-  std::string message;
-  EXPECT_EQ(GetParam().check(message), GetParam().message.empty());
-  EXPECT_EQ(message, GetParam().message);
+TEST(SubmitCheck, RefusesWithItsText) {
+  using std::bind;
+  using std::placeholders::_1;
+  const std::string pCode = "Please enter an alphanumeric value for participant code.";
+  const std::vector<std::pair<std::function<bool(std::string&)>, std::string>> cases{
+      {bind(checkProMargin, "PRO", "", _1), ""},  // any other margin text is full margin
+      {bind(checkProMargin, "CLI", "No Margin", _1), ""},
+      {bind(checkCategorySet, "NSEIPO", "", _1), ""},
+      {bind(checkWalkinCodes, "AB-1", "P-1", _1),
+       "Please enter an alphanumeric value for Client Code."},
+      {bind(checkWalkinCodes, "AB1", "P-1", _1), pCode},
+      {bind(checkWalkinCodes, "AB1", "P 1", _1), pCode},
+      {bind(checkPCodeOrderType, "", "Non-institutional", _1), ""}};
+  for (size_t i = 0; i < cases.size(); ++i) {
+    std::string message;
+    EXPECT_EQ(cases[i].first(message), cases[i].second.empty()) << "row " << i;
+    EXPECT_EQ(message, cases[i].second) << "row " << i;
+  }
 }
-
-using std::bind;
-using std::placeholders::_1;
-const char kPCode[] = "Please enter an alphanumeric value for participant code.";
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Bids, SubmitCheck, testing::Values(
-    S{"ProOtherMarginIsFull", bind(checkProMargin, "PRO", "", _1), ""},
-    S{"ClientNoMargin", bind(checkProMargin, "CLI", "No Margin", _1), ""},
-    S{"NseNoCategory", bind(checkCategorySet, "NSEIPO", "", _1), ""},
-    S{"WalkinHyphen", bind(checkWalkinCodes, "AB-1", "P-1", _1),
-      "Please enter an alphanumeric value for Client Code."},
-    S{"WalkinPCodeHyphen", bind(checkWalkinCodes, "AB1", "P-1", _1), kPCode},
-    S{"WalkinPCodeBlank", bind(checkWalkinCodes, "AB1", "P 1", _1), kPCode},
-    S{"NoPCodeNonInstitutional", bind(checkPCodeOrderType, "", "Non-institutional", _1), ""}));
-// clang-format on
 
 }  // namespace
