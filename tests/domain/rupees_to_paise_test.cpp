@@ -1,44 +1,35 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <ostream>
 #include <string>
+#include <tuple>
+#include <vector>
 
 #include "domain/prices.h"
 
 namespace {
 
-struct PaiseCase {
-  std::string name;
-  std::string rupees;
-  int32_t decimals;
-  int32_t multiplier;
-  int32_t expected;
-  friend void PrintTo(const PaiseCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class ConvertRupeesToPaise : public testing::TestWithParam<PaiseCase> {};
-
-TEST_P(ConvertRupeesToPaise, RoundsHalfUpAndOverflowsToMinusOne) {
-  const PaiseCase& c = GetParam();
-  EXPECT_EQ(convertRupeesToPaise(c.rupees.c_str(), c.decimals, c.multiplier), c.expected);
+// Rounds half up and overflows to -1.
+TEST(ConvertRupeesToPaise, RoundsHalfUpAndOverflowsToMinusOne) {
+  const std::vector<std::tuple<std::string, int32_t, int32_t, int32_t>> cases{
+      {"123.455", 2, 1, 12346},
+      {"1.005", 2, 1, 100},  // stored below the half
+      {"21474836.47", 2, 1, INT_MAX},
+      {"21474836.48", 2, 1, -1},
+      {"-1.25", 2, 1, -125},
+      {"-99999999", 2, 1, INT_MIN},
+      {"abc", 2, 1, 0},
+      {" +12abc", 2, 1, 1200},
+      {"0x10", 2, 1, 0},
+      {"12.5", 3, 10, 125000},
+      {"12.5", 0, 1, 13},
+      {"0.5e400", 2, 1, -1},
+      {"100e-400", 2, 1, 0},
+      {"0." + std::string(400, '0') + "1", 2, 1, 0}};
+  for (const auto& [rupees, decimals, multiplier, paise] : cases)
+    EXPECT_EQ(convertRupeesToPaise(rupees.c_str(), decimals, multiplier), paise)
+        << rupees.substr(0, 20);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ConvertRupeesToPaise,
-    testing::Values(PaiseCase{"HalfUp", "123.455", 2, 1, 12346},
-                    PaiseCase{"StoredBelowHalf", "1.005", 2, 1, 100},
-                    PaiseCase{"IntMax", "21474836.47", 2, 1, INT_MAX},
-                    PaiseCase{"AboveIntMax", "21474836.48", 2, 1, -1},
-                    PaiseCase{"NegativeKept", "-1.25", 2, 1, -125},
-                    PaiseCase{"BelowIntMin", "-99999999", 2, 1, INT_MIN},
-                    PaiseCase{"NotANumber", "abc", 2, 1, 0},
-                    PaiseCase{"TrailingText", " +12abc", 2, 1, 1200},
-                    PaiseCase{"HexIsNotDecimal", "0x10", 2, 1, 0},
-                    PaiseCase{"DecimalsAndMultiplier", "12.5", 3, 10, 125000},
-                    PaiseCase{"NoDecimals", "12.5", 0, 1, 13},
-                    PaiseCase{"Huge", "0.5e400", 2, 1, -1}, PaiseCase{"Tiny", "100e-400", 2, 1, 0},
-                    PaiseCase{"TinyWithoutExponent", "0." + std::string(400, '0') + "1", 2, 1, 0}));
 
 TEST(PaiseToRupeesText, TwoDecimalsExceptMarket) {
   EXPECT_EQ(paiseToRupeesText("MKT"), "MKT");
