@@ -146,7 +146,7 @@ TEST_F(Reactions, OpeningShowsTheIssueAndItsCategories) {
 
 TEST_F(Reactions, AnIssueWithoutCutOffKeepsTheBoxClear) {
   sOFSCol issue = nseIssue();
-  issue.field63059 = "N";
+  issue.field63059 = std::string(1, 'N');  // gcc 12 -O3 misreads a literal assignment
   openOn(issue);
   EXPECT_FALSE(dialog->setCutOff(true));
   EXPECT_FALSE(f().cutOff);
