@@ -27,8 +27,8 @@ inline std::vector<std::pair<uint32_t, std::string>> fieldsOf(const std::string&
 // The transcript line of a request, its fields written as for fieldsOf: wireLine("send 1
 // om_filter_order_ofs", "64001=17") is `send 1 om_filter_order_ofs 64001="17"`.
 inline std::string wireLine(const std::string& head, const std::string& fieldText) {
-  std::string line = head;
-  for (const auto& [id, value] : fieldsOf(fieldText))
-    line += " " + std::to_string(id) + "=\"" + value + "\"";
-  return line;
+  std::ostringstream line;
+  line << head;
+  for (const auto& [id, value] : fieldsOf(fieldText)) line << " " << id << "=\"" << value << "\"";
+  return line.str();
 }
