@@ -32,8 +32,9 @@ TEST_F(SendingProcedure, SendsNameThenFieldsInOrderThroughTheNamedControl) {
 
 // One buffer serves every request: were it not emptied first, the second would not fit.
 TEST_F(SendingProcedure, EachRequestStartsFromAnEmptyBuffer) {
+  const std::string big(20000, '7');  // a request holds views of its values
   Request r("om_filter_order_ofs", "om_filter_order_ofs is failed , ", Control::Second);
-  r.add(64001, std::string(20000, '7'));
+  r.add(64001, big);
   EXPECT_EQ(channel.layer.send(r) + channel.layer.send(r), 2);
   EXPECT_TRUE(shown().empty());
   EXPECT_EQ(channel.transcript.size(), 2u);
