@@ -14,6 +14,7 @@
 #include "messaging/dispatch_context.h"
 #include "messaging/market_depth_state.h"
 #include "messaging/message_layer.h"
+#include "orderbook/order_book_port.h"
 #include "orderentry/order_entry_port.h"
 #include "plugin/client_overview.h"
 #include "plugin/host_service_table.h"
@@ -28,6 +29,7 @@ class CWatchView;
 class COFSControlBlock final : public IIrbeNotifier,
                                public OrderEntryPort,
                                public IssuesPort,
+                               public OrderBookPort,
                                private DispatchContext {
  public:
   // Binds the host's services from `hostModule`.
@@ -85,6 +87,11 @@ class COFSControlBlock final : public IIrbeNotifier,
   int64_t now() const override { return platform.now(); }
   MessageLayer& messageLayer() override { return layer; }
   bool hasAddIssueRight() override;
+  OrderContext orderContext() override;
+  PromptPort& prompt() override { return platform.prompt(); }
+  const sOFSCol* issueOfOrder(const sOFSOrderInfo& order) const override {
+    return findRecord(recordMaps.issues, order.symbol);
+  }
 
  private:
   // DispatchContext
@@ -106,7 +113,6 @@ class COFSControlBlock final : public IIrbeNotifier,
   void handInstrumentToHost(const std::string& exchange, const std::string& symbol) override;
 
   // OrderEntryPort
-  OrderContext orderContext() override;
   bool isValidAccount(const std::string& account) const override;
   std::vector<std::string> userAccounts() const override;
   std::vector<std::string> hostClientTypes() const override;
@@ -119,7 +125,6 @@ class COFSControlBlock final : public IIrbeNotifier,
   void releaseRxControl(IIrbeRxControl* control) override;
   void attachWatchView(CWatchView* view) override { watchView = view; }
   CWatchView* attachedWatchView() const override { return watchView; }
-  PromptPort& prompt() override { return platform.prompt(); }
   bool registerHotkey(void* window, const HotkeyRow& row) override;
   std::unique_ptr<MarketDepthState>& marketDepthState() override { return marketDepth_; }
 
