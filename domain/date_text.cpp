@@ -25,8 +25,17 @@ std::string toUpperAscii(std::string text) {
   return text;
 }
 
+void copyInto(const std::string& text, char* buffer, size_t size) {
+  if (size == 0) return;
+  size_t length = std::min(text.size(), size - 1);
+  std::memcpy(buffer, text.data(), length);
+  buffer[length] = '\0';
+}
+
+}  // namespace
+
 // The classic locale on the stream only: nothing global is read or changed for the names.
-std::string localTimeText(int32_t time, const char* format) {
+std::string localTimeText(int64_t time, const char* format) {
   std::time_t seconds = time;
   std::tm* local = std::localtime(&seconds);
   if (local == nullptr) return {};
@@ -36,14 +45,6 @@ std::string localTimeText(int32_t time, const char* format) {
   return out.str();
 }
 
-void copyInto(const std::string& text, char* buffer, size_t size) {
-  if (size == 0) return;
-  size_t length = std::min(text.size(), size - 1);
-  std::memcpy(buffer, text.data(), length);
-  buffer[length] = '\0';
-}
-
-}  // namespace
 
 std::string dateText(int32_t time, int style) {
   if (style < 0 || style >= kStyleCount) return {};

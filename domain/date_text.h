@@ -14,6 +14,10 @@
 // Any other style gives an empty text.
 std::string dateText(int32_t time, int style);
 
+// `time` (seconds since 1970) in local time by a strftime `format`, with the classic locale's
+// names; empty when the time cannot be converted.
+std::string localTimeText(int64_t time, const char* format);
+
 // "%d%b%Y %H:%M:%S" of `time`, at most 49 characters; empty for a time below 1.
 std::string timeText(int32_t time);
 

@@ -2,7 +2,7 @@
 
 #include <ctime>
 
-#include "issues/issue_date.h"
+#include "domain/issue_date.h"
 #include "messaging/issue_admin_requests.h"
 
 namespace {

@@ -1,6 +1,7 @@
 #include "host/sim/bid_checks.h"
 
 #include "host/sim/issue_rows.h"
+#include "host/sim/sim_dates.h"
 #include "host/sim/sim_numbers.h"
 
 namespace sim {
@@ -51,6 +52,16 @@ MaybeRefusal changeRefusal(const Order& order, const Issue* issue, int64_t today
   if (!issue) return unknownIssue(order.issueId);
   if (auto refusal = biddingRefusal(*issue, today)) return refusal;
   if (issue->get(kModifyCancel) == "N") return noModifyOrCancel(issue->id());
+  return std::nullopt;
+}
+
+MaybeRefusal carryForwardRefusal(const Order& order, const Issue* issue, int64_t today) {
+  if (auto refusal = changeRefusal(order, issue, today)) return refusal;
+  const std::string series = issue->get(issue_field::kSeries);
+  if (series != "IS" && series != "NonRetail")
+    return noCarryForward(issue->id(), "series " + series + " bids are for one day");
+  if (parseDayText(resolveDate(issue->get(kClose), today)) <= today)
+    return noCarryForward(issue->id(), "bidding closes today");
   return std::nullopt;
 }
 

@@ -19,5 +19,8 @@ MaybeRefusal bidRefusal(const Issue& issue, int64_t quantity, const std::string&
                         int64_t paise);
 // A modify or cancel: the order is open, its issue takes bids and allows changes.
 MaybeRefusal changeRefusal(const Order& order, const Issue* issue, int64_t today);
+// A carry forward: a change the issue allows, of a non-retail bid, on an issue that has a day
+// of bidding after today.
+MaybeRefusal carryForwardRefusal(const Order& order, const Issue* issue, int64_t today);
 
 }  // namespace sim

@@ -4,6 +4,7 @@
 #include "host/sim/bid_checks.h"
 #include "host/sim/order_requests.h"
 #include "host/sim/order_rows.h"
+#include "host/sim/request_checks.h"
 #include "host/sim/sim_exchange.h"
 #include "host/sim/sim_numbers.h"
 
@@ -92,6 +93,21 @@ void SimExchange::cancelOrder(const RequestFields& request, Answers& answers) {
     return refuseChange(*order, "cancel rejected", *refusal, answers);
   order->reason.clear();
   setStatus(*order, "cancelled");
+  answers.row(orderRow(*order));
+  answers.succeed();
+  broadcast(*order, answers);
+}
+
+// A carried order stays open; its carry-forward status and its history say it was carried.
+void SimExchange::carryForward(const RequestFields& request, Answers& answers) {
+  if (auto bad = requireFields(request, {64001, 31003, 63058, 50110})) return answers.fail(*bad);
+  Order* order = orderOf(request.text(64001));
+  if (!order) return answers.fail(unknownOrder(request.text(64001)));
+  if (auto refusal = carryForwardRefusal(*order, findIssue(order->issueId), today()))
+    return refuseChange(*order, "carry forward rejected", *refusal, answers);
+  order->reason.clear();
+  order->cfStatus = "Carried Forward";
+  setStatus(*order, order->status, "carried forward");
   answers.row(orderRow(*order));
   answers.succeed();
   broadcast(*order, answers);

@@ -49,5 +49,8 @@ Refusal noCutOff(const std::string& issue) {
 Refusal noMarketData(const std::string& exchange, const std::string& symbol) {
   return {"E211", "No market data for " + exchange + " " + symbol};
 }
+Refusal noCarryForward(const std::string& issue, const std::string& why) {
+  return {"E212", "Orders of issue " + issue + " cannot be carried forward: " + why};
+}
 
 }  // namespace sim

@@ -31,5 +31,6 @@ Refusal belowFloorPrice(const std::string& price, const std::string& floor);
 Refusal notTickMultiple(const std::string& price, const std::string& tick);
 Refusal noCutOff(const std::string& issue);
 Refusal noMarketData(const std::string& exchange, const std::string& symbol);
+Refusal noCarryForward(const std::string& issue, const std::string& why);
 
 }  // namespace sim

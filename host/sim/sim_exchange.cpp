@@ -31,6 +31,7 @@ const std::pair<const char*, SimExchange::Handler> SimExchange::kHandlers[] = {
     {"om_modify_order_walkin", &SimExchange::modifyOrder},
     {"om_cancel_order_ofs", &SimExchange::cancelOrder},
     {"om_cancel_order_walkin", &SimExchange::cancelOrder},
+    {"om_carry_forward_ofs", &SimExchange::carryForward},
     {"om_add_ofs_issue", &SimExchange::addIssue},
     {"om_ofs_allotment", &SimExchange::allot},
     {"om_delete_unalloted_ofs_issue", &SimExchange::deleteUnallotted},

@@ -60,6 +60,7 @@ class SimExchange {
   void placeOrder(const RequestFields& request, Answers& answers);
   void modifyOrder(const RequestFields& request, Answers& answers);
   void cancelOrder(const RequestFields& request, Answers& answers);
+  void carryForward(const RequestFields& request, Answers& answers);
   // Issue administration.
   void addIssue(const RequestFields& request, Answers& answers);
   void allot(const RequestFields& request, Answers& answers);

@@ -3,7 +3,7 @@
 #include <ostream>
 #include <tuple>
 
-#include "issues/issue_date.h"
+#include "domain/issue_date.h"
 #include "issues/watch_columns.h"
 #include "issues/watch_view.h"
 #include "plugin/control_block.h"

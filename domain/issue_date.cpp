@@ -1,4 +1,4 @@
-#include "issues/issue_date.h"
+#include "domain/issue_date.h"
 
 #include <cctype>
 #include <ctime>
