@@ -18,6 +18,9 @@ class DialogRobot : public QObject {
   // The screen shown last that is still visible: the one `set`, `tick`, `pick` and `press`
   // reach. Null when none is.
   QWidget* activeScreen();
+  // A screen that is no dialog (the docked order book) becomes the one `press` reaches once a
+  // script selects in one of its lists.
+  void makeActive(QWidget* screen) { screens_.push_back(screen); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

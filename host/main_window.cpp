@@ -57,7 +57,9 @@ void MainWindow::appendLog(const QString& line) {
 
 void MainWindow::bindHotkey(QObject* view, int number, const QString& key) {
   // The host's key names: "Plus" is the keypad's plus.
-  const QKeySequence sequence = key == "Plus" ? QKeySequence(Qt::Key_Plus) : QKeySequence(key);
+  QKeySequence sequence(key);
+  if (key == "Plus") sequence = QKeySequence(Qt::Key_Plus);
+  if (key == "Delete") sequence = QKeySequence(Qt::Key_Delete);
   auto* shortcut = new QShortcut(sequence, this);
   shortcut->setContext(Qt::ApplicationShortcut);
   QObject::connect(shortcut, &QShortcut::activated, view, [view, number] {

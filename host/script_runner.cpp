@@ -220,6 +220,7 @@ std::string ScriptRunner::selectInTable(const std::string& list,
       }
     }
     table->setFocus();
+    robot_.makeActive(screen);
     return {};
   }
   return "no open list \"" + list + "\"";

@@ -20,6 +20,10 @@ class BookListModel : public QAbstractTableModel, private BookListListener {
   int columnCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  // The order on a line of this model; null past the end.
+  sOFSOrderInfo* orderAt(int row) const {
+    return row < 0 ? nullptr : list_.rowAt(static_cast<size_t>(row));
+  }
 
  private:
   void beforeInsert(size_t row) override;

@@ -27,3 +27,15 @@ void saveColumns(const QHeaderView* header, const QString& listName) {
   QSettings settings(userSettingsFile, QSettings::IniFormat);
   settings.setValue(listName + "/ColumnState", header->saveState());
 }
+
+bool rememberedFlag(const QString& listName, const QString& key, bool otherwise) {
+  if (userSettingsFile.isEmpty()) return otherwise;
+  QSettings settings(userSettingsFile, QSettings::IniFormat);
+  return settings.value(listName + "/" + key, otherwise).toBool();
+}
+
+void rememberFlag(const QString& listName, const QString& key, bool value) {
+  if (userSettingsFile.isEmpty()) return;
+  QSettings settings(userSettingsFile, QSettings::IniFormat);
+  settings.setValue(listName + "/" + key, value);
+}

@@ -11,3 +11,7 @@ void setListRecoveryFiles(const QString& userSettings, const QString& dialogPosi
 void restoreColumns(QHeaderView* header, const QString& listName);
 // Remembers them; the list's owner calls it when the list closes.
 void saveColumns(const QHeaderView* header, const QString& listName);
+
+// A yes/no choice of a list (its grid lines, ...), remembered beside its columns.
+bool rememberedFlag(const QString& listName, const QString& key, bool otherwise);
+void rememberFlag(const QString& listName, const QString& key, bool value);

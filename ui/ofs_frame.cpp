@@ -14,7 +14,8 @@ COFSFrame::COFSFrame(COFSControlBlock& block, QWidget* parent) : QMainWindow(par
   setCentralWidget(watchView_);
   orderBook_ = new QDockWidget("Order Book", this);
   orderBook_->setObjectName("OrderBookDock");
-  orderBook_->setWidget(new OrderBookWidget(block, orderBook_));
+  orderBookWidget_ = new OrderBookWidget(block, *watchView_, orderBook_);
+  orderBook_->setWidget(orderBookWidget_);
   addDockWidget(Qt::BottomDockWidgetArea, orderBook_);
   orderBook_->hide();
 }

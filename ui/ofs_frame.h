@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 class COFSControlBlock;
+class OrderBookWidget;
 class QDockWidget;
 class WatchViewWidget;
 
@@ -14,6 +15,7 @@ class COFSFrame : public QMainWindow {
   COFSFrame(COFSControlBlock& block, QWidget* parent = nullptr);
 
   WatchViewWidget* watchView() const { return watchView_; }
+  OrderBookWidget* orderBook() const { return orderBookWidget_; }
   // Shows the docked order book and brings it forward.
   void showOrderBook();
   // Stores the docking layout under the plug-in's organisation and application.
@@ -22,4 +24,5 @@ class COFSFrame : public QMainWindow {
  private:
   WatchViewWidget* watchView_;
   QDockWidget* orderBook_;
+  OrderBookWidget* orderBookWidget_;
 };

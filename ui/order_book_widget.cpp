@@ -1,7 +1,10 @@
 #include "ui/order_book_widget.h"
 
+#include <QAction>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLabel>
+#include <QMenu>
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>
 #include <QTableView>
@@ -12,27 +15,24 @@
 #include "plugin/lifecycle.h"
 #include "ui/book_list_model.h"
 #include "ui/list_memory.h"
+#include "ui/modify_price_dialog.h"
+#include "ui/order_history_dialog.h"
+#include "ui/order_number_dialog.h"
+#include "ui/watch_view_widget.h"
 
 namespace {
 
-QTableView* makeList(QWidget* parent, const char* name, QSortFilterProxyModel* model) {
-  auto* list = new QTableView(parent);
-  list->setObjectName(name);
-  list->setModel(model);
-  list->setSelectionBehavior(QAbstractItemView::SelectRows);
-  list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  list->verticalHeader()->hide();
-  list->verticalHeader()->setDefaultSectionSize(20);
-  list->horizontalHeader()->setSectionsMovable(true);
-  restoreColumns(list->horizontalHeader(), QString("OFSOrderBook_") + name);
-  return list;
+QString settingsName(const QTableView* list) {
+  return "OFSOrderBook_" + list->objectName();
 }
 
 }  // namespace
 
-OrderBookWidget::OrderBookWidget(COFSControlBlock& block, QWidget* parent)
-    : QWidget(parent), block_(block) {
+OrderBookWidget::OrderBookWidget(COFSControlBlock& block, WatchViewWidget& watchView,
+                                 QWidget* parent)
+    : QWidget(parent), block_(block), watchView_(watchView), book_(block, *this) {
   setObjectName("OrderBook");
+  setWindowTitle(COrderBookDlgBar::kTitle);
   setProperty("dumpName", "order-book");
   setProperty("dumpLists", QStringList{"open", "completed"});
   auto clientName = [&block](const std::string& client) {
@@ -49,10 +49,15 @@ OrderBookWidget::OrderBookWidget(COFSControlBlock& block, QWidget* parent)
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(2, 2, 2, 2);
+  openList_ = makeList("open", open_);
+  completedList_ = makeList("completed", completed_);
+  activeList_ = openList_;
   layout->addWidget(new QLabel("Open Orders", this));
-  layout->addWidget(makeList(this, "open", open_), 3);
+  layout->addWidget(openList_, 3);
   layout->addWidget(new QLabel("Completed Orders", this));
-  layout->addWidget(makeList(this, "completed", completed_), 2);
+  layout->addWidget(completedList_, 2);
+  addCommands();
+  addListCommands();
 
   filterToClient(QString::fromStdString(activeClient()));
   block_.onActiveClientChanged = [this](const std::string& client) {
@@ -62,9 +67,33 @@ OrderBookWidget::OrderBookWidget(COFSControlBlock& block, QWidget* parent)
 
 OrderBookWidget::~OrderBookWidget() {
   block_.onActiveClientChanged = nullptr;
-  for (const char* name : {"open", "completed"})
-    if (auto* list = findChild<QTableView*>(name))
-      saveColumns(list->horizontalHeader(), QString("OFSOrderBook_") + name);
+  for (QTableView* list : {openList_, completedList_})
+    saveColumns(list->horizontalHeader(), settingsName(list));
+}
+
+QTableView* OrderBookWidget::makeList(const char* name, QSortFilterProxyModel* model) {
+  auto* list = new QTableView(this);
+  list->setObjectName(name);
+  list->setModel(model);
+  list->setSelectionBehavior(QAbstractItemView::SelectRows);
+  list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  list->verticalHeader()->hide();
+  list->verticalHeader()->setDefaultSectionSize(20);
+  list->horizontalHeader()->setSectionsMovable(true);
+  list->setContextMenuPolicy(Qt::CustomContextMenu);
+  restoreColumns(list->horizontalHeader(), settingsName(list));
+  list->setShowGrid(rememberedFlag(settingsName(list), "GridLines", true));
+  connect(list, &QTableView::customContextMenuRequested, this,
+          [this, list](const QPoint& at) { showContextMenu(list, at); });
+  connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this, list] { activeList_ = list; });
+  // Double-click or Enter on a line.
+  connect(list, &QTableView::activated, this, [this, list] {
+    activeList_ = list;
+    book_.modifyOrder(focusedOrder(list), ModifyPath::List);
+  });
+  return list;
 }
 
 void OrderBookWidget::filterToClient(const QString& clientId) {
@@ -72,4 +101,105 @@ void OrderBookWidget::filterToClient(const QString& clientId) {
       clientId.isEmpty() ? QString() : "^" + QRegularExpression::escape(clientId) + "$");
   open_->setFilterRegularExpression(exact);
   completed_->setFilterRegularExpression(exact);
+}
+
+void OrderBookWidget::addCommands() {
+  for (const OrderBookCommand& command : orderBookCommands()) {
+    QString text = command.text;
+    if (*command.key) text += QString("\t") + command.key;
+    auto* action = new QAction(text, this);
+    action->setObjectName(COrderBookDlgBar::kMenuGroup);
+    // Delete reaches the book through the host's own shortcut for the watch view; a second
+    // binding of the key here would make both ambiguous.
+    if (*command.key && command.id != OrderBookCommand::Cancel) {
+      action->setShortcut(QKeySequence(command.key));
+      action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    }
+    connect(action, &QAction::triggered, this, [this, id = command.id] { runCommand(id); });
+    addAction(action);
+  }
+}
+
+void OrderBookWidget::runCommand(OrderBookCommand::Id command) {
+  QTableView* list = activeList();
+  switch (command) {
+    case OrderBookCommand::Modify:
+      return book_.modifyOrder(focusedOrder(list), ModifyPath::Menu);
+    case OrderBookCommand::Cancel:
+      return cancelSelected();
+    case OrderBookCommand::History:
+      return book_.showHistory(focusedOrder(list));
+    case OrderBookCommand::BulkModify:
+      return book_.bulkModify(selectedOrders(list));
+    case OrderBookCommand::CarryForward:
+      return book_.carryForward(selectedOrders(list));
+  }
+}
+
+void OrderBookWidget::cancelSelected() {
+  QTableView* list = activeList();
+  if (book_.cancelOrders(selectedOrders(list))) moveFocusDown(list);
+}
+
+void OrderBookWidget::showContextMenu(QTableView* list, const QPoint& at) {
+  activeList_ = list;
+  QMenu menu(this);
+  const QList<QAction*> all = actions();
+  for (int i = 0; i < all.size(); ++i) {
+    // The book's commands, then the list's own.
+    if (i > 0 && all[i]->objectName() != all[i - 1]->objectName()) menu.addSeparator();
+    menu.addAction(all[i]);
+  }
+  menu.exec(list->viewport()->mapToGlobal(at));
+}
+
+std::vector<sOFSOrderInfo*> OrderBookWidget::selectedOrders(const QTableView* list) const {
+  auto* proxy = static_cast<QSortFilterProxyModel*>(list->model());
+  auto* model = static_cast<BookListModel*>(proxy->sourceModel());
+  std::vector<sOFSOrderInfo*> orders;
+  for (const QModelIndex& index : list->selectionModel()->selectedRows())
+    if (sOFSOrderInfo* order = model->orderAt(proxy->mapToSource(index).row()))
+      orders.push_back(order);
+  return orders;
+}
+
+sOFSOrderInfo* OrderBookWidget::focusedOrder(const QTableView* list) const {
+  const QModelIndex current = list->currentIndex();
+  if (!current.isValid()) return nullptr;
+  auto* proxy = static_cast<QSortFilterProxyModel*>(list->model());
+  return static_cast<BookListModel*>(proxy->sourceModel())
+      ->orderAt(proxy->mapToSource(current).row());
+}
+
+void OrderBookWidget::moveFocusDown(QTableView* list) {
+  const QModelIndex current = list->currentIndex();
+  const int next = current.isValid() ? current.row() + 1 : 0;
+  if (next >= list->model()->rowCount()) return;
+  list->setCurrentIndex(list->model()->index(next, 0));
+}
+
+void OrderBookWidget::openOrderModification(const sOFSOrderInfo& order, const sOFSCol& issue) {
+  watchView_.openOrderModification(order, issue);
+}
+
+bool OrderBookWidget::ensureModifyPriceWindow() {
+  if (!modifyPrice_) modifyPrice_ = new ModifyPriceDialog(block_, this);
+  return modifyPrice_ != nullptr;
+}
+
+void OrderBookWidget::openModifyPrice(std::vector<sOFSOrderInfo*> orders,
+                                      const std::string& heading) {
+  modifyPrice_->present(std::move(orders), heading);
+}
+
+void OrderBookWidget::openHistory(const std::string& orderNo) {
+  if (!history_) history_ = new OrderHistoryDialog(block_, this);
+  history_->openFor(orderNo);
+}
+
+void OrderBookWidget::askHistoryOrderNumber() {
+  if (!history_) history_ = new OrderHistoryDialog(block_, this);
+  if (!orderNumber_) orderNumber_ = new OrderNumberDialog(*history_, this);
+  orderNumber_->show();
+  orderNumber_->raise();
 }

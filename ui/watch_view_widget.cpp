@@ -15,6 +15,7 @@
 #include "ui/list_memory.h"
 #include "ui/market_depth_dialog.h"
 #include "ui/ofs_frame.h"
+#include "ui/order_book_widget.h"
 #include "ui/order_entry_dialog.h"
 #include "ui/qt_platform.h"
 #include "ui/scrip_properties_dialog.h"
@@ -190,6 +191,11 @@ bool WatchViewWidget::openOrderEntry(sOFSCol& issue) {
   orderEntry_->openNewBid(issue);
   return true;
 }
+void WatchViewWidget::openOrderModification(const sOFSOrderInfo& order, const sOFSCol& issue) {
+  if (!orderEntry_) orderEntry_ = new OrderEntryDialog(block_, qtPlatform().prompt(), this);
+  orderEntry_->openModification(order, issue);
+}
+
 bool WatchViewWidget::openOrderBook() {
   auto* frame = qobject_cast<COFSFrame*>(parentWidget());
   if (!frame) return false;
@@ -222,5 +228,8 @@ bool WatchViewWidget::openAllotmentUpload(const std::string&) {
   return false;
 }
 bool WatchViewWidget::deleteInOrderBook() {
-  return false;
+  auto* frame = qobject_cast<COFSFrame*>(parentWidget());
+  if (!frame || !frame->orderBook()->isVisible()) return false;
+  frame->orderBook()->cancelSelected();
+  return true;
 }

@@ -25,6 +25,8 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   ~WatchViewWidget() override;
 
   CWatchView& core() { return *core_; }
+  // Order entry in modify mode on a reported order, created when it does not exist.
+  void openOrderModification(const sOFSOrderInfo& order, const sOFSCol& issue);
   // Closes the windows that must not outlive the plug-in's shutdown.
   void destroyDialogs();
 
