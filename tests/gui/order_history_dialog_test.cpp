@@ -27,7 +27,7 @@ TEST(OrderHistoryWindow, TheNumberPromptOpensAHistoryThatTakesAHundredThousandLi
     for (int i = 0; i < kLines; ++i) {
       auto row = std::make_unique<sOFSOrderInfo>();
       row->status = "open";
-      row->field49238 = "X" + std::to_string(i);
+      row->field49238 = std::string("X") + std::to_string(i);
       controlBlock()->onHistoryRow(std::move(row));
     }
     controlBlock()->onHistoryEnd();

@@ -28,7 +28,7 @@ class FakeBookPort : public OrderBookPort {
 class RecordingListener : public OrderHistoryListener {
  public:
   void rowsAppended(size_t first, size_t count) override {
-    events.push_back("rows " + std::to_string(first) + "+" + std::to_string(count));
+    events.push_back(std::string("rows ") + std::to_string(first) + "+" + std::to_string(count));
   }
   void rowsReset() override { events.push_back("reset"); }
   void titleChanged() override { events.push_back("title"); }
