@@ -44,7 +44,7 @@ SimFields historyRow(const Order& order, const OrderEvent& event) {
                 {10306, event.price},
                 {12004, event.quantity},
                 {50100, std::to_string(event.time)},
-                {50101, "0"},
+                {50101, std::to_string(event.fraction)},
                 {63100, order.issueId},
                 {54056, order.proCli},
                 client(order)};

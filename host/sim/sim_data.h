@@ -67,6 +67,7 @@ struct OrderEvent {
   std::string quantity;
   std::string reason;
   int64_t time = 0;
+  int32_t fraction = 0;  // milliseconds past `time`
 };
 
 struct Order {
@@ -105,6 +106,9 @@ struct ExchangeData {
   std::vector<Asset> assets;
   std::map<std::string, std::string> peerData;  // user id -> 28561
   std::vector<Order> orders;
+  // State changes so far: the n-th is stamped n milliseconds (modulo a second) past its
+  // second, so events of one second keep their order and a replayed script its transcript.
+  int64_t stateChanges = 0;
 };
 
 }  // namespace sim

@@ -96,8 +96,9 @@ Order& SimExchange::record(Order order) {
 void SimExchange::setStatus(Order& order, const std::string& status, const std::string& event) {
   order.status = status;
   order.updated = options_.clock();
-  order.history.push_back(
-      {event.empty() ? status : event, order.price, order.quantity, order.reason, order.updated});
+  const auto fraction = static_cast<int32_t>(++data_.stateChanges % 1000);
+  order.history.push_back({event.empty() ? status : event, order.price, order.quantity,
+                           order.reason, order.updated, fraction});
 }
 
 void SimExchange::broadcast(const Order& order, Answers& answers) const {

@@ -149,9 +149,11 @@ TEST(OrderChanges, HistoryListsEveryStateInOrder) {
                             "cancel rejected 12004=15 10306=10500", ""})
     expected.push_back(std::string("reply asker om_get_order_history_ofs") +
                        (*state ? " 10303=" : "") + state);
-  EXPECT_EQ(describe(f, f.ask("om_get_order_history_ofs", fieldsOf("64001=1001 31003=U1")),
-                     {10303, 12004, 10306}),
-            expected);
+  const auto history = f.ask("om_get_order_history_ofs", fieldsOf("64001=1001 31003=U1"));
+  EXPECT_EQ(describe(f, history, {10303, 12004, 10306}), expected);
+  // Every state change carries a fraction of its own, one past the change before it.
+  for (size_t i = 1; i + 1 < history.size(); ++i)
+    EXPECT_EQ(std::stoi(value(history[i], 50101)), std::stoi(value(history[i - 1], 50101)) + 1);
 }
 
 TEST(PriceFeed, StartsWithTheDepthAndFollowsEveryBidOfTheIssue) {
