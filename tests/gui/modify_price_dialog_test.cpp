@@ -23,27 +23,18 @@ struct ModifyPriceWindow : testing::Test {
 };
 
 TEST_F(ModifyPriceWindow, TypingIsBoundAndASentRunHidesIt) {
-  auto& issue = controlBlock()->recordMaps.issues["ABC-RS"];
-  issue = std::make_unique<sOFSCol>();
-  issue->tickSize = 0.05;
+  controlBlock()->recordMaps.issues["ABC-RS"] = std::make_unique<sOFSCol>();
   sOFSOrderInfo order;
-  order.ofsOrderNo = "17";
   order.symbol = "ABC-RS";
-  order.clientId = "A1";
-  order.quantity = "100";
   ModifyPriceDialog dialog(*controlBlock());
   dialog.present({&order}, "Number Of Orders : 1 Total Qty : 100 ");
-  EXPECT_TRUE(dialog.isVisible());
   EXPECT_EQ(dialog.property("heading").toString(), "Number Of Orders : 1 Total Qty : 100 ");
   EXPECT_EQ(dialog.findChild<QTableView*>("orders")->model()->rowCount(), 1);
-  QLineEdit* price = nullptr;
-  for (QLabel* l : dialog.findChildren<QLabel*>())
-    if (l->text() == "Price") price = qobject_cast<QLineEdit*>(l->buddy());
-  ASSERT_NE(price, nullptr);
+  auto* price = qobject_cast<QLineEdit*>(dialog.findChildren<QLabel*>()[1]->buddy());
   for (const QString text : {"150", "150x"}) emit price->textEdited(text);
-  EXPECT_EQ(price->text(), "150");
-  for (QPushButton* b : dialog.findChildren<QPushButton*>())
-    if (b->text() == "OK") b->click();
+  EXPECT_EQ(price->text(), "150");  // the refused keystroke put back what the window holds
+  ASSERT_TRUE(dialog.isVisible());
+  dialog.findChildren<QPushButton*>()[0]->click();  // "OK"
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_TRUE(price->text().isEmpty());
 }
