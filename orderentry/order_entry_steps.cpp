@@ -4,6 +4,7 @@
 #include "domain/client_rules.h"
 #include "domain/issue_terms.h"
 #include "domain/number_text.h"
+#include "domain/quantity_rules.h"
 
 Verdict checkOpenForBids(const OrderEntryFields& fields, const SubmitContext& context) {
   if (!fields.closingTime.empty() && isPastClosingTime(fields.closingTime, context.now)) {
@@ -17,27 +18,20 @@ Verdict checkOpenForBids(const OrderEntryFields& fields, const SubmitContext& co
 }
 
 Verdict checkMinimumQuantity(const std::string& quantity, const sOFSCol& issue) {
-  if (leadingInt64(quantity) < issue.minQuantity) {
-    return refusal("Order minimum Quantity is " +
-                   std::to_string(static_cast<unsigned long long>(issue.minQuantity)));
-  }
+  std::string message;
+  if (!checkQuantityMinimum(quantity, issue, message)) return refusal(message);
   return {};
 }
 
 Verdict checkLot(const std::string& quantity, const sOFSCol& issue) {
-  if (issue.lotSize != 0 && leadingInt64(quantity) % issue.lotSize != 0) {
-    return refusal("Qty should be a multiple of Lot which is " +
-                   std::to_string(static_cast<unsigned long long>(issue.lotSize)) +
-                   " for this security");
-  }
+  std::string message;
+  if (!checkQuantityLot(quantity, issue, message)) return refusal(message);
   return {};
 }
 
 Verdict checkIssueSize(const std::string& quantity, const sOFSCol& issue) {
-  if (issue.issueSize != 0 && static_cast<double>(leadingInt64(quantity)) > issue.issueSize) {
-    return refusal("Qty should be lesser than " + fixedText(issue.issueSize, 0) +
-                   " (Issue Size) for this security");
-  }
+  std::string message;
+  if (!checkQuantityIssueSize(quantity, issue, message)) return refusal(message);
   return {};
 }
 

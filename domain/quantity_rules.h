@@ -1,0 +1,14 @@
+// A bid's quantity against its issue's minimum, lot and size. Every screen that takes a
+// quantity asks here, each in its own order of steps.
+#pragma once
+
+#include <string>
+
+#include "domain/records.h"
+
+bool checkQuantityMinimum(const std::string& quantity, const sOFSCol& issue, std::string& message);
+// A lot of 0 allows any quantity.
+bool checkQuantityLot(const std::string& quantity, const sOFSCol& issue, std::string& message);
+// An issue size of 0 sets no limit.
+bool checkQuantityIssueSize(const std::string& quantity, const sOFSCol& issue,
+                            std::string& message);
