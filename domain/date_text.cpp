@@ -45,7 +45,6 @@ std::string localTimeText(int64_t time, const char* format) {
   return out.str();
 }
 
-
 std::string dateText(int32_t time, int style) {
   if (style < 0 || style >= kStyleCount) return {};
   std::string text = localTimeText(time, kStyles[style]);

@@ -198,32 +198,46 @@ std::string ScriptRunner::select(const std::vector<std::string>& w) {
   return selectInTable(list, keys);
 }
 
-// Any other list a screen names in "dumpLists" ("open", "completed", ...): its rows whose first
-// column is one of the keys, in the order of the keys.
-std::string ScriptRunner::selectInTable(const std::string& list,
-                                        const std::vector<std::string>& keys) {
-  const QString name = QString::fromStdString(list);
+// Any other list is named by its screen's "dumpName" ("order-book", "basket", ...), then, for a
+// screen of several lists, by the list ("open", "completed"); the rows selected are those whose
+// first column is one of the keys, in the order of the keys.
+std::string ScriptRunner::selectInTable(const std::string& screenName,
+                                        const std::vector<std::string>& args) {
   for (QWidget* screen : QApplication::allWidgets()) {
-    if (!screen->property("dumpLists").toStringList().contains(name)) continue;
-    auto* table = screen->findChild<QTableView*>(name);
-    if (!table) continue;
-    QAbstractItemModel* model = table->model();
-    table->clearSelection();
-    for (size_t k = 0; k < keys.size(); ++k) {
-      for (int row = 0; row < model->rowCount(); ++row) {
-        if (model->index(row, 0).data().toString().toStdString() != keys[k]) continue;
-        const QModelIndex index = model->index(row, 0);
-        table->selectionModel()->select(index,
-                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        if (k == 0) table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-        break;
-      }
+    if (screen->property("dumpName").toString().toStdString() != screenName) continue;
+    const QStringList lists = screen->property("dumpLists").toStringList();
+    size_t first = 0;
+    QString list = lists.value(0);
+    if (lists.size() > 1) {
+      if (args.empty() || !lists.contains(QString::fromStdString(args[0])))
+        return "select " + screenName + " needs a list: " + lists.join('|').toStdString();
+      list = QString::fromStdString(args[0]);
+      first = 1;
     }
-    table->setFocus();
+    auto* table = screen->findChild<QTableView*>(list);
+    if (!table) continue;
+    selectRows(*table, std::vector<std::string>(args.begin() + static_cast<std::ptrdiff_t>(first),
+                                                args.end()));
     robot_.makeActive(screen);
     return {};
   }
-  return "no open list \"" + list + "\"";
+  return "no open list \"" + screenName + "\"";
+}
+
+void ScriptRunner::selectRows(QTableView& table, const std::vector<std::string>& keys) {
+  QAbstractItemModel* model = table.model();
+  table.clearSelection();
+  for (size_t k = 0; k < keys.size(); ++k) {
+    for (int row = 0; row < model->rowCount(); ++row) {
+      if (model->index(row, 0).data().toString().toStdString() != keys[k]) continue;
+      const QModelIndex index = model->index(row, 0);
+      table.selectionModel()->select(index,
+                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
+      if (k == 0) table.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+      break;
+    }
+  }
+  table.setFocus();
 }
 
 std::string ScriptRunner::dump(const std::vector<std::string>& w) {

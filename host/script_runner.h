@@ -12,6 +12,7 @@
 class MainWindow;
 class DialogRobot;
 class QObject;
+class QTableView;
 class QWidget;
 
 struct HotkeyRegistration {
@@ -38,7 +39,8 @@ class ScriptRunner {
   std::string execute(const std::vector<std::string>& w);
   std::string deliver(const std::vector<std::string>& w, bool liveUpdate);
   std::string select(const std::vector<std::string>& w);
-  std::string selectInTable(const std::string& list, const std::vector<std::string>& keys);
+  std::string selectInTable(const std::string& screenName, const std::vector<std::string>& args);
+  static void selectRows(QTableView& table, const std::vector<std::string>& keys);
   std::string dump(const std::vector<std::string>& w);
   void dumpDetails(QWidget& screen);
   std::string drive(const std::string& verb, const std::vector<std::string>& w);

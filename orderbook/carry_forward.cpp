@@ -35,7 +35,8 @@ std::string carryForwardRefusal(const sOFSOrderInfo& order, const sOFSCol* issue
 void COrderBookDlgBar::carryForward(const std::vector<sOFSOrderInfo*>& selected) {
   if (selected.empty()) return port_.prompt().message("Please select an Open order.");
   for (const sOFSOrderInfo* order : selected) {
-    const std::string refusal = carryForwardRefusal(*order, port_.issueOfOrder(*order), port_.now());
+    const std::string refusal =
+        carryForwardRefusal(*order, port_.issueOfOrder(*order), port_.now());
     if (!refusal.empty()) return port_.prompt().message(refusal);
   }
   const std::string date = localTimeText(port_.now(), "%m/%d/%Y");

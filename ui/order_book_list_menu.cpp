@@ -62,7 +62,8 @@ void OrderBookWidget::addListCommands() {
     action->setObjectName(kListMenuGroup);
     action->setShortcut(QKeySequence(command.key));
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(action, &QAction::triggered, this, [this, run = command.run] { (this->*run)(activeList()); });
+    connect(action, &QAction::triggered, this,
+            [this, run = command.run] { (this->*run)(activeList()); });
     addAction(action);
   }
 }

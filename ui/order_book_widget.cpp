@@ -141,6 +141,15 @@ void OrderBookWidget::cancelSelected() {
   if (book_.cancelOrders(selectedOrders(list))) moveFocusDown(list);
 }
 
+void OrderBookWidget::destroyDialogs() {
+  delete orderNumber_;
+  orderNumber_ = nullptr;
+  delete history_;
+  history_ = nullptr;
+  delete modifyPrice_;
+  modifyPrice_ = nullptr;
+}
+
 void OrderBookWidget::showContextMenu(QTableView* list, const QPoint& at) {
   activeList_ = list;
   QMenu menu(this);

@@ -27,6 +27,8 @@ class OrderBookWidget : public QWidget, private OrderBookLauncher {
   void filterToClient(const QString& clientId);
   // The book's Delete, also reached through the watch view's shortcut.
   void cancelSelected();
+  // Closes the book's windows: they hold orders and callbacks of the control block.
+  void destroyDialogs();
 
  private:
   QTableView* makeList(const char* name, QSortFilterProxyModel* model);

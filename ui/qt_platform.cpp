@@ -17,6 +17,7 @@
 #include "plugin/plugin_identity.h"
 #include "ui/list_memory.h"
 #include "ui/ofs_frame.h"
+#include "ui/order_book_widget.h"
 #include "ui/watch_view_widget.h"
 
 namespace {
@@ -86,6 +87,7 @@ void QtPlatform::saveLayoutAndCloseFrame() {
 
 void QtPlatform::destroyDialogWindows() {
   if (frame_ && frame_->watchView()) frame_->watchView()->destroyDialogs();
+  if (frame_ && frame_->orderBook()) frame_->orderBook()->destroyDialogs();
 }
 
 void QtPlatform::setRecoveryFiles(const std::string& userSettings, const std::string& dialogPos) {

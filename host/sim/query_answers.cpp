@@ -2,6 +2,7 @@
 #include "host/sim/issue_rows.h"
 #include "host/sim/order_rows.h"
 #include "host/sim/request_checks.h"
+#include "host/sim/sim_dates.h"
 #include "host/sim/sim_exchange.h"
 
 namespace sim {
@@ -55,7 +56,12 @@ void SimExchange::answerHistory(const RequestFields& request, Answers& answers) 
   if (auto bad = requireFields(request, {64001})) return answers.fail(*bad);
   const Order* order = findOrder(request.text(64001));
   if (!order) return answers.fail(unknownOrder(request.text(64001)));
-  for (const OrderEvent& event : order->history) answers.row(historyRow(*order, event));
+  // Orders of the data file entered the book at the market's opening of the day.
+  const int64_t opening = sameDayAt(options_.clock(), 9, 15);
+  for (OrderEvent event : order->history) {
+    if (event.time == 0) event.time = opening;
+    answers.row(historyRow(*order, event));
+  }
   answers.succeed();
 }
 

@@ -36,6 +36,15 @@ int64_t localDay(int64_t seconds) {
                    static_cast<unsigned>(tm.tm_mday));
 }
 
+int64_t sameDayAt(int64_t seconds, int hour, int minute) {
+  std::tm tm = localTm(seconds);
+  tm.tm_hour = hour;
+  tm.tm_min = minute;
+  tm.tm_sec = 0;
+  tm.tm_isdst = -1;
+  return static_cast<int64_t>(std::mktime(&tm));
+}
+
 std::string dayText(int64_t dayCount) {
   const year_month_day ymd{sys_days{days{dayCount}}};
   char text[16];

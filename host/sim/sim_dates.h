@@ -16,6 +16,8 @@ std::string dayText(int64_t day);
 std::optional<int64_t> parseDayText(const std::string& text);
 // "+3", "-2" and "0" are days from `today`, written as a day text; any other text stands.
 std::string resolveDate(const std::string& text, int64_t today);
+// The same local day as `seconds`, at hour:minute.
+int64_t sameDayAt(int64_t seconds, int hour, int minute);
 // "21/11/2026 10:15:00" in local time.
 std::string timeText(int64_t seconds);
 

@@ -45,6 +45,9 @@ SimExchange::SimExchange(ExchangeData data, Options options)
     nextOrder_ = std::max(nextOrder_, parseCount(order.number).value_or(0) + 1);
     if (order.exchangeNumber.empty()) order.exchangeNumber = exchangeOrderNumber(order.number);
     setStatus(order, order.status);
+    // The data file's orders stood in the book before the exchange started: their one state
+    // is dated when asked for, by the clock of that moment.
+    order.history.back().time = 0;
   }
 }
 

@@ -130,15 +130,30 @@ TEST_F(OrderBookCommandsTest, CancelRefusesAsksAndSendsInSelectionOrder) {
        {"Order cancellation not allowed (in case Institutional orders with 0% margin)"},
        {three},
        {"om_cancel_order_ofs 17", "om_cancel_order_ofs 19"}},
-      {"BSE No Margin is cancelled", {noMargin("bse_ipo")}, false, true, {}, {one},
+      {"BSE No Margin is cancelled",
+       {noMargin("bse_ipo")},
+       false,
+       true,
+       {},
+       {one},
        {"om_cancel_order_ofs 17"}},
-      {"walk-in order", {[](sOFSOrderInfo& o) {
+      {"walk-in order",
+       {[](sOFSOrderInfo& o) {
          o.clientId.clear();
          o.walkinClientId = "W1";
        }},
-       false, true, {}, {one}, {"om_cancel_order_walkin 17"}},
-      {"issue closed to bidding", {kAsIs, kAsIs}, true, true,
-       {"Cancellation of bid not allowed. Please contact Administrator"}, {}, {}},
+       false,
+       true,
+       {},
+       {one},
+       {"om_cancel_order_walkin 17"}},
+      {"issue closed to bidding",
+       {kAsIs, kAsIs},
+       true,
+       true,
+       {"Cancellation of bid not allowed. Please contact Administrator"},
+       {},
+       {}},
   };
   for (const CancelCase& c : cases) {
     SCOPED_TRACE(c.name);
@@ -209,16 +224,19 @@ TEST_F(OrderBookCommandsTest, BulkModifyKeepsOpenLimitOrdersOfOneContract) {
   auto market = [](sOFSOrderInfo& o) { o.priceType = "MKT"; };
   auto bigger = [](sOFSOrderInfo& o) { o.quantity = "50"; };
   const std::vector<BulkCase> cases = {
-      {"two of one contract", {kAsIs, bigger},
+      {"two of one contract",
+       {kAsIs, bigger},
        "modify-price Number Of Orders : 2 Total Qty : 150 | 17 18"},
-      {"closed and market lines skipped", {status("complete"), market, kAsIs},
+      {"closed and market lines skipped",
+       {status("complete"), market, kAsIs},
        "modify-price Number Of Orders : 1 Total Qty : 100 | 19"},
       {"two issues", {kAsIs, otherIssue}, "Contract Information not matching"},
       {"same issue id on the other exchange",
        {kAsIs, [](sOFSOrderInfo& o) { o.exchange = "bse_ipo"; }},
        "Contract Information not matching"},
       {"last examined is closed", {market, status("cancelled")}, "Please select open Order"},
-      {"last examined is market", {status("cancelled"), market},
+      {"last examined is market",
+       {status("cancelled"), market},
        "Market Order Price Modification Not Allowed"},
       {"CF inactive stops", {kAsIs, cf("Inactive")}, "please select order with active CF Status"},
   };
@@ -288,12 +306,13 @@ TEST_F(OrderBookCommandsTest, CarryForwardSendsEachOrderThenSaysSo) {
                             o.walkinClientId = "W1";
                           }});
   book->carryForward(selected);
-  EXPECT_EQ(sends(), (Lines{"send 1 om_carry_forward_ofs 63001=\"nse_ipo\" 31003=\"U1\" "
-                            "54001=\"A1\" 63100=\"I1\" 64001=\"17\" 63058=\"NonRetail\" "
-                            "50110=\"11/21/2026\" 10306=\"150.00\" 12004=\"100\" 54158=\"UUID-1\"",
-                            "send 1 om_carry_forward_ofs 63001=\"nse_ipo\" 31003=\"U1\" "
-                            "64916=\"W1\" 63100=\"I1\" 64001=\"18\" 63058=\"NonRetail\" "
-                            "50110=\"11/21/2026\" 10306=\"150.00\" 12004=\"100\" 54158=\"UUID-2\""}));
+  EXPECT_EQ(sends(),
+            (Lines{"send 1 om_carry_forward_ofs 63001=\"nse_ipo\" 31003=\"U1\" "
+                   "54001=\"A1\" 63100=\"I1\" 64001=\"17\" 63058=\"NonRetail\" "
+                   "50110=\"11/21/2026\" 10306=\"150.00\" 12004=\"100\" 54158=\"UUID-1\"",
+                   "send 1 om_carry_forward_ofs 63001=\"nse_ipo\" 31003=\"U1\" "
+                   "64916=\"W1\" 63100=\"I1\" 64001=\"18\" 63058=\"NonRetail\" "
+                   "50110=\"11/21/2026\" 10306=\"150.00\" 12004=\"100\" 54158=\"UUID-2\""}));
   EXPECT_EQ(prompt().messages(), Lines{"Carry Forward request sent successfully."});
 }
 
