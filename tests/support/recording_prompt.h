@@ -31,6 +31,7 @@ class RecordingPrompt : public PromptPort {
     messages_.clear();
     focused_.clear();
     questions_.clear();
+    answers_.clear();
   }
 
  private:
