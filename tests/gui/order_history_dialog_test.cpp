@@ -27,7 +27,7 @@ TEST(OrderHistoryWindow, TheNumberPromptOpensAHistoryThatTakesAHundredThousandLi
     for (int i = 0; i < kLines; ++i) {
       auto row = std::make_unique<sOFSOrderInfo>();
       row->status = "open";
-      row->field49238 = std::string("X") + std::to_string(i);
+      row->field49238 = std::to_string(i);
       controlBlock()->onHistoryRow(std::move(row));
     }
     controlBlock()->onHistoryEnd();
@@ -40,7 +40,7 @@ TEST(OrderHistoryWindow, TheNumberPromptOpensAHistoryThatTakesAHundredThousandLi
       if (auto* value = qobject_cast<QLabel*>(label->buddy()))
         details << label->text() + value->text();
     EXPECT_EQ(details.size(), 9);
-    EXPECT_TRUE(details.contains("ExchangeOrderNo:X99999")) << details.join("|").toStdString();
+    EXPECT_TRUE(details.contains("ExchangeOrderNo:99999")) << details.join("|").toStdString();
   }
   EXPECT_FALSE(controlBlock()->onHistoryRow);
   exitPlugin(host);

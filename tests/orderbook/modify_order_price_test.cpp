@@ -36,7 +36,8 @@ std::string sentOf(const Lines& transcript) {
     sent += (sent.empty() ? "" : "; ") + line.substr(23, line.find(' ', 23) - 23);
     for (const std::string id : {" 64001=\"", " 10306=\"", " 12004=\"", " 10332=\""}) {
       const size_t at = line.find(id), from = at + id.size();
-      sent += " " + (at == std::string::npos ? "" : line.substr(from, line.find('"', from) - from));
+      sent += ' ';
+      if (at != std::string::npos) sent += line.substr(from, line.find('"', from) - from);
     }
   }
   return sent;
