@@ -14,6 +14,10 @@ bool isDigits(std::string_view text) {
   return std::all_of(text.begin(), text.end(), isDigit);
 }
 
+bool isPriceTyping(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '.'; });
+}
+
 bool isAlphanumeric(std::string_view text) {
   return std::all_of(text.begin(), text.end(), isLetterOrDigit);
 }

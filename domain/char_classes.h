@@ -8,5 +8,7 @@ bool isLetterOrDigit(char c);
 
 // Every character is a decimal digit (true for an empty text).
 bool isDigits(std::string_view text);
+// Every character is a digit or a point: what a price box lets through while typing.
+bool isPriceTyping(std::string_view text);
 // Every character is a letter or a decimal digit (true for an empty text).
 bool isAlphanumeric(std::string_view text);

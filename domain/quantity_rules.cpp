@@ -3,6 +3,14 @@
 #include "domain/number_text.h"
 #include "domain/refusal.h"
 
+namespace {
+
+const char* forThis(IssueNoun noun) {
+  return noun == IssueNoun::Contract ? " for this contract" : " for this security";
+}
+
+}  // namespace
+
 bool checkQuantityMinimum(const std::string& quantity, const sOFSCol& issue, std::string& message) {
   if (leadingInt64(quantity) < issue.minQuantity) {
     return refuse(message, "Order minimum Quantity is " +
@@ -11,20 +19,21 @@ bool checkQuantityMinimum(const std::string& quantity, const sOFSCol& issue, std
   return true;
 }
 
-bool checkQuantityLot(const std::string& quantity, const sOFSCol& issue, std::string& message) {
+bool checkQuantityLot(const std::string& quantity, const sOFSCol& issue, std::string& message,
+                      IssueNoun noun) {
   if (issue.lotSize != 0 && leadingInt64(quantity) % issue.lotSize != 0) {
     return refuse(message, "Qty should be a multiple of Lot which is " +
                                std::to_string(static_cast<unsigned long long>(issue.lotSize)) +
-                               " for this security");
+                               forThis(noun));
   }
   return true;
 }
 
-bool checkQuantityIssueSize(const std::string& quantity, const sOFSCol& issue,
-                            std::string& message) {
+bool checkQuantityIssueSize(const std::string& quantity, const sOFSCol& issue, std::string& message,
+                            IssueNoun noun) {
   if (issue.issueSize != 0 && static_cast<double>(leadingInt64(quantity)) > issue.issueSize) {
     return refuse(message, "Qty should be lesser than " + fixedText(issue.issueSize, 0) +
-                               " (Issue Size) for this security");
+                               " (Issue Size)" + forThis(noun));
   }
   return true;
 }

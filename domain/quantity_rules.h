@@ -6,9 +6,14 @@
 
 #include "domain/records.h"
 
+// What the lot and size texts call the issue: order entry and the bid files say "security", the
+// basket says "contract".
+enum class IssueNoun { Security, Contract };
+
 bool checkQuantityMinimum(const std::string& quantity, const sOFSCol& issue, std::string& message);
 // A lot of 0 allows any quantity.
-bool checkQuantityLot(const std::string& quantity, const sOFSCol& issue, std::string& message);
+bool checkQuantityLot(const std::string& quantity, const sOFSCol& issue, std::string& message,
+                      IssueNoun noun = IssueNoun::Security);
 // An issue size of 0 sets no limit.
-bool checkQuantityIssueSize(const std::string& quantity, const sOFSCol& issue,
-                            std::string& message);
+bool checkQuantityIssueSize(const std::string& quantity, const sOFSCol& issue, std::string& message,
+                            IssueNoun noun = IssueNoun::Security);

@@ -3,18 +3,11 @@
 #include <set>
 #include <utility>
 
+#include "domain/char_classes.h"
 #include "domain/prices.h"
 #include "messaging/order_requests.h"
 #include "orderbook/modify_price_checks.h"
 #include "orderbook/order_book_port.h"
-
-namespace {
-
-bool onlyOf(const std::string& text, const char* allowed) {
-  return text.find_first_not_of(allowed) == std::string::npos;
-}
-
-}  // namespace
 
 const std::array<const char*, CModifyOrderPrice::kColumnCount>& CModifyOrderPrice::columns() {
   static constexpr std::array<const char*, kColumnCount> kColumns = {"OFS Order Number",
@@ -47,13 +40,13 @@ std::string CModifyOrderPrice::columnText(int row, int column) const {
 }
 
 bool CModifyOrderPrice::setPrice(const std::string& text) {
-  if (!onlyOf(text, "0123456789.")) return false;
+  if (!isPriceTyping(text)) return false;
   price_ = text;
   return true;
 }
 
 bool CModifyOrderPrice::setQuantity(const std::string& text) {
-  if (!onlyOf(text, "0123456789")) return false;
+  if (!isDigits(text)) return false;
   quantity_ = text;
   return true;
 }

@@ -12,10 +12,6 @@
 
 namespace {
 
-bool isPriceText(const std::string& text) {
-  return text.find_first_not_of("0123456789.") == std::string::npos;
-}
-
 bool typeInto(EntryText& field, const std::string& text, bool accepted) {
   if (!field.enabled || !field.visible || !accepted) return false;
   field.text = text;
@@ -122,7 +118,7 @@ bool COrderEntryDlg::setQuantity(const std::string& text) {
 }
 
 bool COrderEntryDlg::setPrice(const std::string& text) {
-  if (!typeInto(fields_.price, text, isPriceText(text))) return false;
+  if (!typeInto(fields_.price, text, isPriceTyping(text))) return false;
   notify(Change::Fields);
   return true;
 }

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <string>
-#include <vector>
+
+#include "domain/screen_fields.h"
 
 // The labels by which the view, the focus and scripts name the fields.
 namespace entry_label {
@@ -21,18 +22,6 @@ inline constexpr char kMargin[] = "Margin";
 inline constexpr char kParticipantCode[] = "Participant Code";
 inline constexpr char kIndicativePrice[] = "Indicative Price";
 }  // namespace entry_label
-
-struct EntryText {
-  std::string text;
-  bool enabled = true;
-  bool visible = true;
-};
-
-struct EntryChoice {
-  std::vector<std::string> items;
-  std::string selected;  // empty: nothing selected
-  bool enabled = true;
-};
 
 struct OrderEntryFields {
   EntryText ofsId{{}, false, true};  // symbol-series

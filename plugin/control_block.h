@@ -8,6 +8,7 @@
 #include <set>
 #include <string>
 
+#include "basket/basket_port.h"
 #include "domain/order_book_lists.h"
 #include "domain/record_maps.h"
 #include "issues/issues_port.h"
@@ -30,6 +31,7 @@ class COFSControlBlock final : public IIrbeNotifier,
                                public OrderEntryPort,
                                public IssuesPort,
                                public OrderBookPort,
+                               public BasketPort,
                                private DispatchContext {
  public:
   // Binds the host's services from `hostModule`.
@@ -91,6 +93,9 @@ class COFSControlBlock final : public IIrbeNotifier,
   PromptPort& prompt() override { return platform.prompt(); }
   const sOFSCol* issueOfOrder(const sOFSOrderInfo& order) const override {
     return findRecord(recordMaps.issues, order.symbol);
+  }
+  const sOFSCol* issueOfSymbol(const std::string& symbol) const override {
+    return findRecord(recordMaps.issues, symbol);
   }
 
  private:
