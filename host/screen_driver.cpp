@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTableView>
 #include <QWidget>
 
 namespace {
@@ -59,8 +60,27 @@ std::string setField(QWidget& screen, const std::string& label, const std::strin
   return field ? "\"" + label + "\" is not a text field" : missing(label);
 }
 
+namespace {
+
+// A list's rows carry their own tick boxes: "tick 2 on" ticks the second row of the screen's
+// first list.
+std::string tickRow(QWidget& screen, const std::string& label, bool on) {
+  const QStringList lists = screen.property("dumpLists").toStringList();
+  auto* table = lists.isEmpty() ? nullptr : screen.findChild<QTableView*>(lists.front());
+  bool isNumber = false;
+  const int row = QString::fromStdString(label).toInt(&isNumber) - 1;
+  if (!table || !isNumber) return "the open screen has no tick box \"" + label + "\"";
+  if (row < 0 || row >= table->model()->rowCount()) return "no row " + label + " to tick";
+  table->model()->setData(table->model()->index(row, 0), on ? Qt::Checked : Qt::Unchecked,
+                          Qt::CheckStateRole);
+  return {};
+}
+
+}  // namespace
+
 std::string tickBox(QWidget& screen, const std::string& label, bool on) {
   auto* box = qobject_cast<QAbstractButton*>(findField(screen, label));
+  if (!box) return tickRow(screen, label, on);
   if (!box || !box->isCheckable()) return "the open screen has no tick box \"" + label + "\"";
   if (!box->isEnabled()) return "\"" + label + "\" is disabled";
   if (box->isChecked() != on) box->click();

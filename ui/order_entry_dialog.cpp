@@ -11,28 +11,8 @@
 #include <QVBoxLayout>
 
 #include "plugin/control_block.h"
+#include "ui/entry_widgets.h"
 
-namespace {
-
-QString q(const std::string& text) {
-  return QString::fromStdString(text);
-}
-
-void showField(QLineEdit* edit, const EntryText& field) {
-  if (edit->text() != q(field.text)) edit->setText(q(field.text));
-  edit->setEnabled(field.enabled);
-  edit->setVisible(field.visible);
-}
-
-void showField(QComboBox* list, const EntryChoice& choice) {
-  const QSignalBlocker quiet(list);
-  list->clear();
-  for (const std::string& item : choice.items) list->addItem(q(item));
-  list->setCurrentIndex(list->findText(q(choice.selected)));
-  list->setEnabled(choice.enabled);
-}
-
-}  // namespace
 
 OrderEntryDialog::OrderEntryDialog(COFSControlBlock& block, PromptPort& prompt, QWidget* parent)
     : QDialog(parent), block_(block), screen_(block, prompt) {

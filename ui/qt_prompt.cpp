@@ -25,9 +25,24 @@ bool QtPrompt::question(const std::string& text) {
   return box.exec() == QMessageBox::Yes;
 }
 
+namespace {
+
+// The screens give their filters as "Name (*.x)|*.x|Other (*.y)|*.y||"; Qt reads the patterns
+// from the names, joined by ";;".
+QString qtFilter(const std::string& filter) {
+  const QStringList parts = QString::fromStdString(filter).split('|');
+  if (parts.size() < 2) return QString::fromStdString(filter);
+  QStringList names;
+  for (int i = 0; i < parts.size(); i += 2)
+    if (!parts[i].isEmpty()) names << parts[i];
+  return names.join(";;");
+}
+
+}  // namespace
+
 std::string QtPrompt::chooseFile(bool saving, const std::string& suggestedName,
                                  const std::string& filter) {
-  QFileDialog dialog(parentWindow(), QString(), QString(), QString::fromStdString(filter));
+  QFileDialog dialog(parentWindow(), QString(), QString(), qtFilter(filter));
   // Qt's own dialog: the same on every desktop, and scriptable by the reference terminal.
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

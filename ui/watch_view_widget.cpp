@@ -11,6 +11,7 @@
 #include "issues/watch_columns.h"
 #include "plugin/control_block.h"
 #include "plugin/settings_paths.h"
+#include "ui/basket_dialog.h"
 #include "ui/issue_list_model.h"
 #include "ui/list_memory.h"
 #include "ui/market_depth_dialog.h"
@@ -89,6 +90,8 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
 }
 
 void WatchViewWidget::destroyDialogs() {
+  delete basket_;
+  basket_ = nullptr;
   delete orderEntry_;
   orderEntry_ = nullptr;
   delete marketDepth_;
@@ -203,7 +206,9 @@ bool WatchViewWidget::openOrderBook() {
   return true;
 }
 bool WatchViewWidget::openBasket() {
-  return false;
+  if (!basket_) basket_ = new BasketDialog(block_, this);
+  basket_->openOn(core_->selectedIssue());
+  return true;
 }
 bool WatchViewWidget::openScripProperties(sOFSCol& issue) {
   if (!scripProperties_) scripProperties_ = new ScripPropertiesDialog(this);

@@ -11,6 +11,7 @@
 
 class COFSControlBlock;
 class IssueListModel;
+class BasketDialog;
 class MarketDepthDialog;
 class OrderEntryDialog;
 class ScripPropertiesDialog;
@@ -66,6 +67,7 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   std::array<IssueListModel*, 3> models_{};
   bool shownOnce_ = false;
   MarketDepthDialog* marketDepth_ = nullptr;
+  BasketDialog* basket_ = nullptr;
   OrderEntryDialog* orderEntry_ = nullptr;
   ScripPropertiesDialog* scripProperties_ = nullptr;
 };

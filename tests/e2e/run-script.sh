@@ -17,8 +17,13 @@ trap 'rm -f "$actual"' EXIT
 work="$(mktemp -d)"
 trap 'rm -f "$actual"; rm -rf "$work"' EXIT
 ln -s "$(readlink -f "$bin")" "$work/vorntrader"
+# The script runs from a copy of its folder, so the files it saves (`file` names are relative to
+# the script) land in the scratch directory and the files it reads are there as well.
+mkdir "$work/scripts"
+cp -r "$(dirname "$script")"/. "$work/scripts/"
 (cd "$work" && HOME="$work" XDG_CONFIG_HOME="$work/.config" XDG_DATA_HOME="$work/.local/share" \
-  XDG_RUNTIME_DIR="$work" ./vorntrader --headless --backend "$backend" --script "$script" \
+  XDG_RUNTIME_DIR="$work" ./vorntrader --headless --backend "$backend" \
+  --script "$work/scripts/$(basename "$script")" \
   --trace "$actual" --home "$work/users" 2>"$work/stderr") || {
   status=$?
   echo "vorntrader exited with $status"; cat "$work/stderr"; exit 1
