@@ -11,6 +11,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 using Lines = std::vector<std::string>;
 
 // A line as the save writes it, for client `id`; the loader skips its first character.
@@ -44,13 +45,13 @@ TEST(BasketFileTest, LoadsGoodLinesLastFirstAndNamesTheOthers) {
   } cases[] = {
       {"reversed", a + "\n" + b + "\n" + c + "\n", {c, b, a, "3 lines"}},
       {"bse read as nse", saved("A", "bse_ipo") + "\n", {a, "1 lines"}},
-      {"bse after a lead", "#" + saved("A", "bse_ipo"), {saved("A", "bse_ipo"), "1 lines"}},
+      {"bse after a lead", "#"s + saved("A", "bse_ipo"), {saved("A", "bse_ipo"), "1 lines"}},
       {"comma shifts",
        "nse_ipo,CLI,Rao, A,,X-RS,1,2,Retail,No Margin,Y,",
        {"nse_ipo,CLI,Rao, A,,X-RS,1,2,Retail,No Margin,", "1 lines"}},
-      {"no comma between", a + "\nno comma\n" + b, {"2" + notCsv.substr(1), b, a, "3 lines"}},
+      {"no comma between", a + "\nno comma\n" + b, {"2"s + notCsv.substr(1), b, a, "3 lines"}},
       {"blank, NUL",
-       "\n" + std::string(1, '\0') + ",\n",
+       "\n"s + std::string(1, '\0') + ",\n",
        {notCsv, "2:Basket Read Error: Line is Empty ", "2 lines"}},
       {"too few",
        "xnse_ipo,CLI\n",
