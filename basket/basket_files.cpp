@@ -2,6 +2,10 @@
 #include "basket/basket_file.h"
 #include "basket/basket_manager.h"
 
+// One-letter flags are assigned as strings: gcc 12 at -O3 misreads a literal assignment as an
+// overlapping copy (-Wrestrict).
+using namespace std::string_literals;
+
 namespace {
 
 constexpr char kSaveFilter[] =
@@ -37,7 +41,7 @@ void CBasketManagerOFS::load() {
     return prompt.message("File Open Error");
   }
   rows_ = std::move(loaded.rows);
-  for (sOFSPlaceOrder& row : rows_) row.ticked = "N";
+  for (sOFSPlaceOrder& row : rows_) row.ticked = "N"s;
   placeEnabled_ = true;
   showCount();
   changed(true);

@@ -5,6 +5,10 @@
 #include "domain/prices.h"
 #include "domain/series.h"
 
+// One-letter flags are assigned as strings: gcc 12 at -O3 misreads a literal assignment as an
+// overlapping copy (-Wrestrict).
+using namespace std::string_literals;
+
 namespace {
 
 bool choose(EntryChoice& choice, const std::string& entry) {
@@ -80,7 +84,7 @@ bool CBasketManagerOFS::setPrice(const std::string& text) {
 // A cut-off bid is at the market: its price reads "MKT" and cannot be typed.
 bool CBasketManagerOFS::setCutOff(bool ticked) {
   fields_.cutOff = ticked;
-  fields_.price.text = ticked ? "MKT" : "";
+  fields_.price.text = ticked ? "MKT"s : ""s;
   fields_.price.enabled = !ticked;
   changed();
   return true;
@@ -115,7 +119,7 @@ bool CBasketManagerOFS::selectParticipantCode(const std::string& entry) {
 
 void CBasketManagerOFS::setTicked(size_t index, bool on) {
   if (index >= rows_.size()) return;
-  rows_[index].ticked = on ? "Y" : "N";
+  rows_[index].ticked = on ? "Y"s : "N"s;
   changed(true);
 }
 
@@ -157,9 +161,11 @@ void CBasketManagerOFS::place() {
   for (const sOFSPlaceOrder* row : ticked) {
     // A copy: the request writes its Pro/Cli letter back, and the row keeps what it shows.
     sOFSPlaceOrder order = *row;
-    order.side = "B";
+    order.side = "B"s;
     order.margin = order.marginText == "No Margin" ? "NO" : "YES";
-    order.marketFlag = order.price == "MKT" ? "Y" : "";
+    order.marketFlag = order.price == "MKT" ? "Y"s : ""s;
+    // The walk-in request names its client in 64916: the row's account is that client.
+    if (order.walkinClientId.empty()) order.walkinClientId = order.clientId;
     if (const sOFSCol* issue = port_.issueOfSymbol(order.symbol)) order.issueId = issue->issueId;
     if (order.screenName == "NSEIPO") order.screenName = "nse_ipo";
     if (order.screenName == "BSEIPO") order.screenName = "bse_ipo";

@@ -7,6 +7,10 @@
 #include "domain/quantity_rules.h"
 #include "domain/series.h"
 
+// One-letter flags are assigned as strings: gcc 12 at -O3 misreads a literal assignment as an
+// overlapping copy (-Wrestrict).
+using namespace std::string_literals;
+
 using namespace basket_label;
 
 bool CBasketManagerOFS::refuse(const std::string& message, const char* field) {
@@ -44,7 +48,7 @@ void CBasketManagerOFS::add() {
     row.ticked = rows_[editing_].ticked;
     rows_[editing_] = std::move(row);
   } else {
-    row.ticked = "N";
+    row.ticked = "N"s;
     rows_.insert(rows_.begin(), std::move(row));
   }
   entryDone();
@@ -120,10 +124,10 @@ bool CBasketManagerOFS::checkPrice(sOFSPlaceOrder& row) {
   if (row.quantity.empty()) return refuse("Please enter some quantity", kQuantity);
   const PriceBand band = splitPriceRange(fields_.priceRange);
   if (row.price == "MKT") {
-    row.marketFlag = "Y";
+    row.marketFlag = "Y"s;
     return true;
   }
-  row.marketFlag = "N";
+  row.marketFlag = "N"s;
   if (row.price.empty()) return refuse("Please enter price", kPrice);
   if (leadingDouble(row.price) < leadingDouble(band.floor)) {
     return refuse(
@@ -151,7 +155,7 @@ bool CBasketManagerOFS::buildRow(sOFSPlaceOrder& row) {
   row.quantity = fields_.quantity.text;
   row.price = fields_.price.text;
   if (!checkSeries(row, row.series) || !checkExchange(row) || !checkPrice(row)) return false;
-  row.side = "B";
+  row.side = "B"s;
   row.proCli = row.clientType == "PRO" ? "PRO" : "CLI";
   row.userId = port_.userId();
   fields_.margin.enabled = true;

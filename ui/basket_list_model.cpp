@@ -21,8 +21,7 @@ QVariant BasketListModel::data(const QModelIndex& index, int role) const {
 
 bool BasketListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (role != Qt::CheckStateRole || index.column() != 0) return false;
-  screen_.setTicked(static_cast<size_t>(index.row()),
-                    value.value<Qt::CheckState>() == Qt::Checked);
+  screen_.setTicked(static_cast<size_t>(index.row()), value.value<Qt::CheckState>() == Qt::Checked);
   return true;
 }
 

@@ -13,7 +13,6 @@
 #include "plugin/control_block.h"
 #include "ui/entry_widgets.h"
 
-
 OrderEntryDialog::OrderEntryDialog(COFSControlBlock& block, PromptPort& prompt, QWidget* parent)
     : QDialog(parent), block_(block), screen_(block, prompt) {
   setObjectName("OrderEntry");
