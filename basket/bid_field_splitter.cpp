@@ -3,17 +3,24 @@
 #include <algorithm>
 
 bool BidFieldSplitter::next(std::string& field) {
+  std::string_view view;
+  if (!next(view)) return false;
+  field.assign(view);
+  return true;
+}
+
+bool BidFieldSplitter::next(std::string_view& field) {
   if (done_) return false;
-  field.clear();
   const long p = position_;
   const auto size = static_cast<long>(line_.size());
+  field = line_.substr(line_.size());
   if (p != 0 && p != kDone && (p >= size || line_[p] != ',')) {
     done_ = true;
     return true;
   }
   const size_t from = static_cast<size_t>(std::min(p + 1, size));
   const size_t stop = std::min(line_.find_first_of(",\r\n", from), line_.size());
-  field.assign(line_.substr(from, std::min(stop - from, kFieldLimit)));
+  field = line_.substr(from, std::min(stop - from, kFieldLimit));
   done_ = stop < line_.size() && line_[stop] == '\n';
   position_ = static_cast<long>(stop);
   return true;

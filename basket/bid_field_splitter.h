@@ -19,6 +19,8 @@ class BidFieldSplitter {
   // of the text. False once the line has given its last field. A line that ends without a line
   // feed, or with a carriage return, gives one empty field more after its last one.
   bool next(std::string& field);
+  // The same field as a view into the line, for readers that keep the line and not the fields.
+  bool next(std::string_view& field);
   // The first fields.size() fields at most; returns how many were filled.
   size_t split(std::span<std::string> fields);
 

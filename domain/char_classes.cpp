@@ -21,3 +21,11 @@ bool isPriceTyping(std::string_view text) {
 bool isAlphanumeric(std::string_view text) {
   return std::all_of(text.begin(), text.end(), isLetterOrDigit);
 }
+
+bool isUpperCase(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
+bool isAllBlanks(std::string_view text) {
+  return !text.empty() && text.find_first_not_of(' ') == std::string_view::npos;
+}

@@ -12,3 +12,7 @@ bool isDigits(std::string_view text);
 bool isPriceTyping(std::string_view text);
 // Every character is a letter or a decimal digit (true for an empty text).
 bool isAlphanumeric(std::string_view text);
+// No lower-case ASCII letter: digits and signs pass, as upper-casing would leave the text as is.
+bool isUpperCase(std::string_view text);
+// One or more blanks and nothing else.
+bool isAllBlanks(std::string_view text);

@@ -1,6 +1,7 @@
 #include "domain/client_rules.h"
 
 #include "domain/char_classes.h"
+#include "domain/code_alphabet.h"
 #include "domain/refusal.h"
 
 namespace {
@@ -143,6 +144,46 @@ bool checkPCodeOrderType(const std::string& pCode, const std::string& orderType,
   // One sentence with its full stop, unlike the message shown when the account is chosen.
   if (!pCode.empty() && orderType == kNonInstitutionalOrder) {
     return refuse(message, "Client with Pcode cannot place order in Non-institutional Order.");
+  }
+  return true;
+}
+
+std::string vtSeries(const std::string& exchange, const std::string& orderType) {
+  const bool bse = isBse(exchange);
+  if (orderType == kRetailOrder) return bse ? "Retail" : "RS";
+  if (orderType == "Employee") return bse ? "Employee" : "ES";
+  return bse ? "NonRetail" : "IS";
+}
+
+// The doubled percent signs of the original format texts print as one.
+bool checkVtClientRules(const VtClientBid& bid, std::string& message) {
+  const std::string& type = bid.orderType;
+  const bool retailLike = type == kRetailOrder || type == "Employee";
+  const bool fullMargin = bid.margin == kFullMargin;
+  if (!inCodeAlphabet(bid.clientId)) return refuse(message, "InValid ClientID");
+  if (!retailLike && type != kNonInstitutionalOrder && type != kInstitutionalOrder) {
+    return refuse(message, "InValid OrderType");
+  }
+  if (!bid.pCode.empty() && retailLike) {
+    return refuse(message, "Client WIth Pcode Not Allowed to Place Retail Orders");
+  }
+  if (!isBse(bid.exchange) && !bid.category.empty()) {
+    return refuse(message, "Client Category Should not be there for NSEIPO");
+  }
+  if (type == kRetailOrder && !fullMargin) {
+    return refuse(message, "Margin Should be 100% for Retail orders");
+  }
+  if (type == kInstitutionalOrder && bid.pCode.empty() && !fullMargin) {
+    return refuse(message, "Margin Should be 100% for Institutional orders if no Pcode");
+  }
+  const CategoryBid category{bid.exchange, vtSeries(bid.exchange, type), type, bid.cutOff,
+                             bid.category};
+  if (!checkClientCategory(category, message)) return false;
+  if (!bid.pCode.empty() && type == kNonInstitutionalOrder) {
+    return refuse(message, "Client WIth Pcode Not Allowed to Place " + type + " Orders");
+  }
+  if (type != kInstitutionalOrder && !fullMargin) {
+    return refuse(message, "Margin Should be 100% for " + type + " orders");
   }
   return true;
 }

@@ -66,5 +66,22 @@ bool checkWalkinCodes(const std::string& clientCode, const std::string& pCode,
 // An ordinary bid (neither "PRO" nor walk-in): an account the host knows as a client.
 bool checkOrdinaryAccount(const std::string& clientCode, bool hostKnowsClient,
                           std::string& message);
+// A line of the terminal's own bid file: order types are those of the BSE screen plus
+// "Employee", and the series is the one its order type stands for (see vtSeries).
+struct VtClientBid {
+  std::string exchange;
+  std::string clientId;
+  std::string pCode;
+  std::string margin;  // "100% Margin" or "No Margin"
+  std::string orderType;
+  bool cutOff = false;
+  std::string category;
+};
+// The client rules in the order the bid file reports them, the category table among them.
+bool checkVtClientRules(const VtClientBid& bid, std::string& message);
+// "Retail" and "Employee" order types stand for the retail and employee series, the others for
+// the non-retail one: "RS", "ES", "IS" on NSE, "Retail", "Employee", "NonRetail" on BSE.
+std::string vtSeries(const std::string& exchange, const std::string& orderType);
+
 bool checkPCodeOrderType(const std::string& pCode, const std::string& orderType,
                          std::string& message);

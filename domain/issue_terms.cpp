@@ -15,6 +15,10 @@ PriceBand splitPriceRange(const std::string& range) {
   return {range.substr(0, dash), range.substr(dash + 1)};
 }
 
+const std::string& ceilingPriceOf(const sOFSCol& issue) {
+  return issue.field63023;
+}
+
 const std::string& retailLimitOf(const sOFSCol& issue) {
   return issue.field54009;
 }

@@ -18,6 +18,7 @@ std::string priceRangeOf(const sOFSCol& issue);
 // Split at the first "-"; without one the whole text is the floor.
 PriceBand splitPriceRange(const std::string& range);
 
+const std::string& ceilingPriceOf(const sOFSCol& issue);     // the upper end of the band
 const std::string& retailLimitOf(const sOFSCol& issue);      // "Retail Limit"
 const std::string& nonRetailLimitOf(const sOFSCol& issue);   // "Non Retail Individual Limit"
 const std::string& closingTimeOf(const sOFSCol& issue);      // "HH:MM:SS", empty when none

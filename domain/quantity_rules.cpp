@@ -9,6 +9,10 @@ const char* forThis(IssueNoun noun) {
   return noun == IssueNoun::Contract ? " for this contract" : " for this security";
 }
 
+const char* quantityWord(QuantityWord word) {
+  return word == QuantityWord::Quantity ? "Quantity" : "Qty";
+}
+
 }  // namespace
 
 bool checkQuantityMinimum(const std::string& quantity, const sOFSCol& issue, std::string& message) {
@@ -20,9 +24,10 @@ bool checkQuantityMinimum(const std::string& quantity, const sOFSCol& issue, std
 }
 
 bool checkQuantityLot(const std::string& quantity, const sOFSCol& issue, std::string& message,
-                      IssueNoun noun) {
+                      IssueNoun noun, QuantityWord word) {
   if (issue.lotSize != 0 && leadingInt64(quantity) % issue.lotSize != 0) {
-    return refuse(message, "Qty should be a multiple of Lot which is " +
+    return refuse(message, std::string(quantityWord(word)) +
+                               " should be a multiple of Lot which is " +
                                std::to_string(static_cast<unsigned long long>(issue.lotSize)) +
                                forThis(noun));
   }
@@ -30,10 +35,10 @@ bool checkQuantityLot(const std::string& quantity, const sOFSCol& issue, std::st
 }
 
 bool checkQuantityIssueSize(const std::string& quantity, const sOFSCol& issue, std::string& message,
-                            IssueNoun noun) {
+                            IssueNoun noun, QuantityWord word) {
   if (issue.issueSize != 0 && static_cast<double>(leadingInt64(quantity)) > issue.issueSize) {
-    return refuse(message, "Qty should be lesser than " + fixedText(issue.issueSize, 0) +
-                               " (Issue Size)" + forThis(noun));
+    return refuse(message, std::string(quantityWord(word)) + " should be lesser than " +
+                               fixedText(issue.issueSize, 0) + " (Issue Size)" + forThis(noun));
   }
   return true;
 }

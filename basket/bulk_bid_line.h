@@ -1,0 +1,74 @@
+// One line of a bulk bid file as read: the line's text kept once, its fields as places in it.
+// A million loaded lines must not cost a million sets of strings.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The four kinds of bid file, numbered as the "File Type" list of the upload screen counts them.
+enum class BidFileKind : uint8_t { Neat = 1, Now = 2, NowModCxl = 3, Vt = 4 };
+
+// The entry the upload screen's "File Type" list shows for a kind.
+const char* bidFileKindText(BidFileKind kind);
+
+// Every field any kind holds; a kind without a column gives an empty text for it.
+enum class BidColumn : uint8_t {
+  BookType,
+  BuySell,
+  Symbol,
+  Series,
+  Quantity,
+  Price,
+  ProCli,
+  ClientId,  // the account number of the NEAT kind
+  PCode,
+  Margin,  // the block collateral: "01"/"02", "YES"/"NO" or the VT margin text
+  WalkinCode,
+  WalkinName,
+  ModCxl,
+  NowOrderNumber,
+  NowClientType,
+  Exchange,
+  IssueId,
+  CutOff,
+  OrderType,
+  Category,
+  Count,
+};
+
+class BidLine {
+ public:
+  // The most fields a kind stores; further fields of a VT line are not kept.
+  static constexpr size_t kMaxFields = 12;
+
+  BidLine() = default;
+  BidLine(BidFileKind kind, std::string_view text) : text_(text), kind_(kind) {}
+
+  BidFileKind kind() const { return kind_; }
+  // The line as read, its line end included.
+  const std::string& text() const { return text_; }
+  // The field exactly as it stood between the commas. In the VT kind the pro/cli reads "C" for
+  // "CLI" and "F" for "PRO", as the upload grid shows it.
+  std::string_view field(BidColumn column) const;
+  std::string_view operator[](BidColumn column) const { return field(column); }
+
+  // For the readers: the file's n-th field (0 is the first) lies at `offset`, `length` long.
+  void setField(size_t n, size_t offset, size_t length);
+  size_t fieldCount() const { return count_; }
+
+ private:
+  // The 1,023-byte pieces of the readers fit easily; offsets are 16 bits to keep rows small.
+  struct Span {
+    uint16_t offset = 0;
+    uint16_t length = 0;
+  };
+
+  std::string_view raw(BidColumn column) const;
+
+  std::string text_;
+  std::array<Span, kMaxFields> spans_{};
+  BidFileKind kind_ = BidFileKind::Vt;
+  uint8_t count_ = 0;
+};
