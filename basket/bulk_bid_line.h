@@ -2,8 +2,10 @@
 // A million loaded lines must not cost a million sets of strings.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -38,6 +40,35 @@ enum class BidColumn : uint8_t {
   Count,
 };
 
+namespace bid_detail {
+
+using C = BidColumn;
+using ColumnPlaces = std::array<int8_t, static_cast<size_t>(C::Count)>;
+
+// Where each column stands in a kind's file (0 is the first field, -1 none), from its column list.
+constexpr ColumnPlaces placesOf(std::initializer_list<C> fileOrder) {
+  ColumnPlaces places{};
+  for (auto& p : places) p = -1;
+  int8_t n = 0;
+  for (C c : fileOrder) places[static_cast<size_t>(c)] = n++;
+  return places;
+}
+
+// By kind number; the accessors are inline because the checks ask for fields many times a line.
+inline constexpr std::array<ColumnPlaces, 5> kPlaces = {
+    placesOf({}),
+    placesOf({C::BookType, C::BuySell, C::Symbol, C::Series, C::Quantity, C::Price, C::ProCli,
+              C::ClientId, C::PCode, C::Margin}),
+    placesOf({C::NowClientType, C::Symbol, C::Series, C::Quantity, C::Price, C::ProCli, C::ClientId,
+              C::PCode, C::Margin, C::WalkinCode, C::WalkinName}),
+    placesOf({C::NowClientType, C::NowOrderNumber, C::Symbol, C::Series, C::Quantity, C::Price,
+              C::ProCli, C::ClientId, C::PCode, C::Margin, C::WalkinCode, C::ModCxl}),
+    placesOf({C::Exchange, C::ProCli, C::ClientId, C::PCode, C::IssueId, C::Quantity, C::Price,
+              C::Margin, C::CutOff, C::OrderType, C::Category}),
+};
+
+}  // namespace bid_detail
+
 class BidLine {
  public:
   // The most fields a kind stores; further fields of a VT line are not kept.
@@ -46,12 +77,23 @@ class BidLine {
   BidLine() = default;
   BidLine(BidFileKind kind, std::string_view text) : text_(text), kind_(kind) {}
 
+  // Starts the line afresh as `text` of `kind`, keeping the text's buffer when it is big enough.
+  void reset(BidFileKind kind, std::string_view text) {
+    text_.assign(text);
+    kind_ = kind;
+    count_ = 0;
+  }
+
   BidFileKind kind() const { return kind_; }
   // The line as read, its line end included.
   const std::string& text() const { return text_; }
   // The field exactly as it stood between the commas. In the VT kind the pro/cli reads "C" for
   // "CLI" and "F" for "PRO", as the upload grid shows it.
-  std::string_view field(BidColumn column) const;
+  std::string_view field(BidColumn column) const {
+    const std::string_view text = raw(column);
+    if (kind_ != BidFileKind::Vt || column != BidColumn::ProCli) return text;
+    return text == "CLI" ? "C" : text == "PRO" ? "F" : text;
+  }
   std::string_view operator[](BidColumn column) const { return field(column); }
 
   // For the readers: the file's n-th field (0 is the first) lies at `offset`, `length` long.
@@ -65,7 +107,13 @@ class BidLine {
     uint16_t length = 0;
   };
 
-  std::string_view raw(BidColumn column) const;
+  std::string_view raw(BidColumn column) const {
+    const auto kind = std::min(static_cast<size_t>(kind_), bid_detail::kPlaces.size() - 1);
+    const int8_t place = bid_detail::kPlaces[kind][static_cast<size_t>(column)];
+    if (place < 0 || place >= count_) return {};
+    const Span s = spans_[static_cast<size_t>(place)];
+    return std::string_view(text_.data() + s.offset, s.length);
+  }
 
   std::string text_;
   std::array<Span, kMaxFields> spans_{};

@@ -34,7 +34,7 @@ std::string readExchangeLine(BidFileKind kind, std::string_view text, const char
   if (isEmptyLine(text)) return kInvalidFormat;
   if (text.front() == ',') return leadingComma;
   if (std::count(text.begin(), text.end(), ',') != commas) return kInvalidFormat;
-  line = BidLine(kind, text);
+  line.reset(kind, text);
   splitInto(line.text(), 0, static_cast<size_t>(commas) + 1, line);
   return {};
 }
@@ -61,7 +61,7 @@ std::string readVtLine(std::string_view text, BidLine& line) {
   if (text.find(',') == std::string_view::npos) {
     return "Basket Read Error: Invalid Format: Not a CSV File ";
   }
-  line = BidLine(BidFileKind::Vt, text);
+  line.reset(BidFileKind::Vt, text);
   splitInto(line.text(), -1, 11, line);
   return {};
 }

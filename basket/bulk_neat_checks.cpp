@@ -64,8 +64,9 @@ std::string checkNeatLine(const BidLine& l, const BidContext& c) {
   if (!inCodeAlphabet(account)) return "Account Number cannot have special characters.";
   // The account column is the walk-in code too, so the walk-in code's own text never shows.
   if (!isDigits(quantity)) return "Invalid Qty";
+  const sOFSCol* issue = issueOfLine(l, c);
   if (price != kMarketPrice) {
-    if (auto m = checkBidPrice(price, issueOfLine(l, c)); !m.empty()) return m;
+    if (auto m = checkBidPrice(price, issue); !m.empty()) return m;
   }
-  return checkAgainstIssue(l, c);
+  return checkAgainstIssue(l, c, issue);
 }

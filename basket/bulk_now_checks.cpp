@@ -89,8 +89,9 @@ std::string checkNowLine(const BidLine& l, const BidContext& c) {
   if (series == "IS" && price == kMarketPrice) return "Incorrect Cutoff Combination";
   if (retail && pCode != c.tmCode) return "Invalid Participant Code for Series";
   if (auto m = checkNowClient(l, c); !m.empty()) return m;
+  const sOFSCol* issue = issueOfLine(l, c);
   if (price != kMarketPrice) {
-    if (auto m = checkBidPrice(price, issueOfLine(l, c)); !m.empty()) return m;
+    if (auto m = checkBidPrice(price, issue); !m.empty()) return m;
   }
   if (!inCodeAlphabet(l[C::WalkinCode]))
     return "Walking client code cannot have Special Characters.";
@@ -99,5 +100,5 @@ std::string checkNowLine(const BidLine& l, const BidContext& c) {
   if (!pCode.empty() && c.knowsParticipantCode && !c.knowsParticipantCode(pCode)) {
     return "Invalid Participant code";
   }
-  return checkAgainstIssue(l, c);
+  return checkAgainstIssue(l, c, issue);
 }

@@ -26,9 +26,9 @@ const sOFSCol* issueOfLine(const BidLine& line, const BidContext& context) {
   return context.issueBySymbol(line[C::Symbol], line[C::Series]);
 }
 
-std::string checkAgainstIssue(const BidLine& line, const BidContext& context) {
+std::string checkAgainstIssue(const BidLine& line, const BidContext& context,
+                              const sOFSCol* issue) {
   if (!context.issueBySymbol) return {};
-  const sOFSCol* issue = issueOfLine(line, context);
   if (!issue) return "Issue Id not found";
   const std::string quantity(line[C::Quantity]);
   const std::string_view price = line[C::Price];

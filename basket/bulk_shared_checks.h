@@ -27,7 +27,7 @@ std::string checkBidPrice(std::string_view price, const sOFSCol* issue);
 
 // The issue a NEAT or NOW line is for, when issues can be looked up.
 const sOFSCol* issueOfLine(const BidLine& line, const BidContext& context);
-// NEAT and NOW lines against the issue their symbol and series name; skipped without issues.
-std::string checkAgainstIssue(const BidLine& line, const BidContext& context);
+// NEAT and NOW lines against `issue`, the one issueOfLine found; skipped without issue lookups.
+std::string checkAgainstIssue(const BidLine& line, const BidContext& context, const sOFSCol* issue);
 
 }  // namespace bulk

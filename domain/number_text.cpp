@@ -84,11 +84,14 @@ int64_t leadingInt64(std::string_view text) {
 }
 
 std::string fixedText(double value, int precision) {
-  // The widest double printed in full: 309 integer digits, a sign and the point.
-  std::string text(320 + static_cast<size_t>(std::max(precision, 0)), '\0');
-  auto [end, ec] = std::to_chars(text.data(), text.data() + text.size(), value,
-                                 std::chars_format::fixed, std::max(precision, 0));
+  // The widest double printed in full: 309 integer digits, a sign and the point. Short
+  // precisions print on the stack: the price checks call this for every bid file line.
+  const size_t width = 320 + static_cast<size_t>(std::max(precision, 0));
+  char stack[400];
+  std::string heap(width > sizeof(stack) ? width : 0, '\0');
+  char* text = heap.empty() ? stack : heap.data();
+  auto [end, ec] =
+      std::to_chars(text, text + width, value, std::chars_format::fixed, std::max(precision, 0));
   if (ec != std::errc()) return {};
-  text.resize(static_cast<size_t>(end - text.data()));
-  return text;
+  return std::string(text, end);
 }
