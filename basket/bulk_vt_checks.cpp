@@ -22,18 +22,13 @@ bool isVtOrderType(std::string_view type) {
 }
 
 // A participant code of code characters, and the account's own when the account is known.
-bool isValidPCode(const BidLine& l, const BidContext& c) {
-  const std::string_view pCode = l[C::PCode];
-  if (!inCodeAlphabet(pCode)) return false;
-  const std::string* own = c.participantCodeOf ? c.participantCodeOf(l[C::ClientId]) : nullptr;
-  return !own || *own == pCode;
+bool isValidPCode(std::string_view pCode, const std::string* accountPCode) {
+  return inCodeAlphabet(pCode) && (!accountPCode || *accountPCode == pCode);
 }
 
 std::string checkClientRules(const BidLine& l) {
-  VtClientBid bid{std::string(l[C::Exchange]),  std::string(l[C::ClientId]),
-                  std::string(l[C::PCode]),     std::string(l[C::Margin]),
-                  std::string(l[C::OrderType]), l[C::CutOff] == "Y",
-                  std::string(l[C::Category])};
+  const VtClientBid bid{l[C::Exchange],  l[C::ClientId],      l[C::PCode],   l[C::Margin],
+                        l[C::OrderType], l[C::CutOff] == "Y", l[C::Category]};
   std::string message;
   checkVtClientRules(bid, message);
   return message;
@@ -89,10 +84,9 @@ std::string checkVtLine(const BidLine& l, const BidContext& c) {
   const std::string_view margin = l[C::Margin], cutOff = l[C::CutOff];
   if (exchange != "NSEIPO" && exchange != "BSEIPO") return "InValid Exchange";
   if (proCli != "C" && proCli != "F") return "InValid Pro/Cli";
-  if (client.empty() || (c.participantCodeOf && !c.participantCodeOf(client))) {
-    return "InValid Cient ID";
-  }
-  if (!isValidPCode(l, c)) return "InValid Pcode";
+  const std::string* accountPCode = c.participantCodeOf ? c.participantCodeOf(client) : nullptr;
+  if (client.empty() || (c.participantCodeOf && !accountPCode)) return "InValid Cient ID";
+  if (!isValidPCode(l[C::PCode], accountPCode)) return "InValid Pcode";
   if (margin != kFullMargin && margin != kNoMargin) return "InValid Margin";
   if (cutOff != "Y" && cutOff != "N") return "InValid Cut off";
   if (type.empty()) return "Order type cannot be Blank";
@@ -108,7 +102,7 @@ std::string checkVtLine(const BidLine& l, const BidContext& c) {
   if (price != kMarketPrice) {
     if (auto m = checkBidPrice(price, issue); !m.empty()) return m;
   }
-  const std::string series = vtSeries(std::string(exchange), std::string(type));
+  const std::string series = vtSeries(exchange, type);
   if (auto m = checkCutOff(l, series); !m.empty()) return m;
   return issue ? checkAgainstVtIssue(l, *issue, series) : std::string();
 }

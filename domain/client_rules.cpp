@@ -9,7 +9,7 @@ namespace {
 constexpr char kSelectAccount[] = "Please select AccountId";
 constexpr char kPCodeNoRetail[] = "Client with Pcode Cannot Place Retail Orders";
 
-bool isBse(const std::string& exchange) {
+bool isBse(std::string_view exchange) {
   return exchange == "BSEIPO";
 }
 
@@ -148,7 +148,7 @@ bool checkPCodeOrderType(const std::string& pCode, const std::string& orderType,
   return true;
 }
 
-std::string vtSeries(const std::string& exchange, const std::string& orderType) {
+std::string vtSeries(std::string_view exchange, std::string_view orderType) {
   const bool bse = isBse(exchange);
   if (orderType == kRetailOrder) return bse ? "Retail" : "RS";
   if (orderType == "Employee") return bse ? "Employee" : "ES";
@@ -157,7 +157,7 @@ std::string vtSeries(const std::string& exchange, const std::string& orderType) 
 
 // The doubled percent signs of the original format texts print as one.
 bool checkVtClientRules(const VtClientBid& bid, std::string& message) {
-  const std::string& type = bid.orderType;
+  const std::string_view type = bid.orderType;
   const bool retailLike = type == kRetailOrder || type == "Employee";
   const bool fullMargin = bid.margin == kFullMargin;
   if (!inCodeAlphabet(bid.clientId)) return refuse(message, "InValid ClientID");
@@ -176,14 +176,20 @@ bool checkVtClientRules(const VtClientBid& bid, std::string& message) {
   if (type == kInstitutionalOrder && bid.pCode.empty() && !fullMargin) {
     return refuse(message, "Margin Should be 100% for Institutional orders if no Pcode");
   }
-  const CategoryBid category{bid.exchange, vtSeries(bid.exchange, type), type, bid.cutOff,
-                             bid.category};
-  if (!checkClientCategory(category, message)) return false;
+  // An NSE line with a category was refused above; only BSE lines meet the category table.
+  if (isBse(bid.exchange)) {
+    const CategoryBid category{std::string(bid.exchange), vtSeries(bid.exchange, type),
+                               std::string(type), bid.cutOff, std::string(bid.category)};
+    if (!checkClientCategory(category, message)) return false;
+  }
   if (!bid.pCode.empty() && type == kNonInstitutionalOrder) {
-    return refuse(message, "Client WIth Pcode Not Allowed to Place " + type + " Orders");
+    return refuse(
+        message,
+        std::string("Client WIth Pcode Not Allowed to Place ").append(type).append(" Orders"));
   }
   if (type != kInstitutionalOrder && !fullMargin) {
-    return refuse(message, "Margin Should be 100% for " + type + " orders");
+    return refuse(message,
+                  std::string("Margin Should be 100% for ").append(type).append(" orders"));
   }
   return true;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 inline constexpr char kFullMargin[] = "100% Margin";
@@ -69,19 +70,19 @@ bool checkOrdinaryAccount(const std::string& clientCode, bool hostKnowsClient,
 // A line of the terminal's own bid file: order types are those of the BSE screen plus
 // "Employee", and the series is the one its order type stands for (see vtSeries).
 struct VtClientBid {
-  std::string exchange;
-  std::string clientId;
-  std::string pCode;
-  std::string margin;  // "100% Margin" or "No Margin"
-  std::string orderType;
+  std::string_view exchange;
+  std::string_view clientId;
+  std::string_view pCode;
+  std::string_view margin;  // "100% Margin" or "No Margin"
+  std::string_view orderType;
   bool cutOff = false;
-  std::string category;
+  std::string_view category;
 };
 // The client rules in the order the bid file reports them, the category table among them.
 bool checkVtClientRules(const VtClientBid& bid, std::string& message);
 // "Retail" and "Employee" order types stand for the retail and employee series, the others for
 // the non-retail one: "RS", "ES", "IS" on NSE, "Retail", "Employee", "NonRetail" on BSE.
-std::string vtSeries(const std::string& exchange, const std::string& orderType);
+std::string vtSeries(std::string_view exchange, std::string_view orderType);
 
 bool checkPCodeOrderType(const std::string& pCode, const std::string& orderType,
                          std::string& message);
