@@ -21,7 +21,7 @@ BidLookups lookups() {
     issue.symbol = symbol;
     issue.floorPrice = "100";
     issue.field63023 = "120";
-    issue.field63059 = "Y";
+    issue.field63059 = std::string(1, 'Y');
     issue.field54009 = "200000";
     issue.hniLimit = "10000";
     issue.lotSize = 10;

@@ -25,9 +25,9 @@ inline sOFSCol issue(const std::string& id, const std::string& symbol) {
   i.issueId = id;
   i.symbol = symbol;
   i.floorPrice = "100";
-  i.field63023 = "120";     // ceiling
-  i.field63059 = "Y";       // cut-off allowed
-  i.field54009 = "200000";  // retail limit
+  i.field63023 = "120";                // ceiling
+  i.field63059 = std::string(1, 'Y');  // cut-off allowed
+  i.field54009 = "200000";             // retail limit
   i.hniLimit = "10000";
   i.lotSize = 10;
   i.minQuantity = 20;
@@ -46,7 +46,7 @@ inline BidLookups lookups() {
   l.addAccount("TM1", "");
   l.addAccount("AQ1", "PC1");
   sOFSCol noCutOff = issue("103", "XYZ-RS");
-  noCutOff.field63059 = "N";
+  noCutOff.field63059 = std::string(1, 'N');
   l.addIssue(noCutOff);
   const struct {
     const char *number, *status, *symbol, *client, *pCode;
