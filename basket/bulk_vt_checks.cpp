@@ -34,16 +34,21 @@ std::string checkClientRules(const BidLine& l) {
   return message;
 }
 
+// "%s" is the order type.
+std::string forType(const char* text, std::string_view type) {
+  return std::string(text).append(type);
+}
+
 std::string checkCutOff(const BidLine& l, const std::string& series) {
-  const std::string type(l[C::OrderType]);
+  const std::string_view type = l[C::OrderType];
   const bool market = l[C::Price] == kMarketPrice, cutOff = l[C::CutOff] == "Y";
   if (series == "Employee" || series == "ES") {
-    if (!market) return "Price should be MKT for " + type;
-    if (!cutOff) return "Cut off should be Y for " + type;
+    if (!market) return forType("Price should be MKT for ", type);
+    if (!cutOff) return forType("Cut off should be Y for ", type);
   }
   if (series == "NonRetail" || series == "IS") {
-    if (market) return "Price should not be MKT for " + type;
-    if (cutOff) return "Cut off should not be Y for " + type;
+    if (market) return forType("Price should not be MKT for ", type);
+    if (cutOff) return forType("Cut off should not be Y for ", type);
   }
   if (cutOff && !market) return "Price should be MKT When Cutoff is Y";
   if (!cutOff && market) return "Price should not be MKT When Cutoff is N";
