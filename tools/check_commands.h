@@ -14,3 +14,6 @@ inline constexpr int kUsageError = 2;
 
 // ofs-check basket FILE
 void addBasketCommand(CLI::App& app, CheckRun& run);
+// ofs-check bids --format neat|now|nowmod|vt [--issues F] [--accounts F] [--orders F]
+//                [--tm-code CODE] [--write-accepted F] FILE
+void addBidsCommand(CLI::App& app, CheckRun& run);

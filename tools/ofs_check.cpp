@@ -21,6 +21,7 @@ int runOfsCheck(int argc, const char* const* argv, std::ostream& out, std::ostre
   app.require_subcommand(1);
   CheckRun run;
   addBasketCommand(app, run);
+  addBidsCommand(app, run);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {
