@@ -50,4 +50,32 @@ TEST(BulkReaderTest, LastFieldsOfALineWithoutLineFeedOrWithCarriageReturn) {
   EXPECT_EQ(checkNeatLine(line, {}), "Symbol Or Series Is not Mentioned");
 }
 
+TEST(BulkReaderTest, AcceptedLinesBecomeTheOrdersPlaced) {
+  const BidLookups l = lookups();
+  const BidContext c = l.context("TM1");
+  const struct {
+    BidFileKind kind;
+    const char* text;
+    const char* expected;  // client type, client id, margin, price type, symbol, issue id
+  } cases[] = {
+      {BidFileKind::Neat, "x01,01,ABC,IS,100,101.00,CLI,ACC1,PC1,02\n",
+       "OFFLINE ACC1-TM1 NO L ABC-IS 101"},
+      {BidFileKind::Now, "xPRO,ABC,IS,100,MKT,PRO,PC1,PC1,NO,,\n", "PRO PC1 NO MKT ABC-IS 101"},
+      {BidFileKind::NowModCxl, "xOFFLINE,N1,ABC,RS,100,101.00,CLI,A-B,PC1,YES,,M\n",
+       "OFFLINE A-B YES L ABC-RS 102"},
+      {BidFileKind::Vt, "NSEIPO,CLI,BSE1,,102,100,101.00,100% Margin,N,Retail,\n",
+       "OFFLINE BSE1-TM1 YES L ABC-RS 102"},
+  };
+  for (const auto& t : cases) {
+    BidLine line;
+    ASSERT_EQ(readBidLine(t.kind, t.text, line), "") << t.text;
+    const sOFSPlaceOrder o = placeOrderOf(line, c);
+    EXPECT_EQ(o.clientType + " " + o.clientId + " " + o.margin + " " + o.priceType + " " +
+                  o.symbol + " " + o.issueId,
+              t.expected)
+        << t.text;
+    EXPECT_EQ(o.side, "B");
+  }
+}
+
 }  // namespace
