@@ -7,8 +7,7 @@
 #include "basket/bulk_bid_readers.h"
 
 BidFileLoad loadBidFile(const std::string& path, BidFileKind kind, const BidContext& context) {
-  std::unique_ptr<std::FILE, int (*)(std::FILE*)> in(std::fopen(path.c_str(), "rb"),
-                                                     &std::fclose);
+  std::unique_ptr<std::FILE, int (*)(std::FILE*)> in(std::fopen(path.c_str(), "rb"), &std::fclose);
   if (!in) return {};
   return readBidFile(in.get(), kind, context);
 }

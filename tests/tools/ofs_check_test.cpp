@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
 #include "tests/support/scratch_dir.h"
@@ -45,6 +46,46 @@ TEST(OfsCheckTest, PrintsRefusalsRowsAndTotalsWithTheStatus) {
   std::ostringstream out, err;
   EXPECT_EQ(runOfsCheck(2, help, out, err), 0);
   EXPECT_NE(out.str().find("basket"), std::string::npos);
+}
+
+int run(std::vector<std::string> args, std::string& out, std::string& err) {
+  std::vector<const char*> argv{"ofs-check"};
+  for (const std::string& a : args) argv.push_back(a.c_str());
+  std::ostringstream o, e;
+  const int status = runOfsCheck(int(argv.size()), argv.data(), o, e);
+  out = o.str();
+  err = e.str();
+  return status;
+}
+
+TEST(OfsCheckTest, BidsChecksAgainstTheGivenIssuesAndAccountsAndWritesTheAcceptedLines) {
+  ScratchDir dir;
+  const std::string issues = dir.file("issues.csv"), accounts = dir.file("accounts.csv");
+  const std::string bids = dir.file("neat.csv"), accepted = dir.file("ok.csv");
+  std::ofstream(issues)
+      << "Exchange,Symbol Name,Series,...header\n"
+      << "nse_ipo,ABC,IS,INE01,10,0.05,100.00,110.00,23/11/2026,23/11/2026,"
+         "23/11/2026,20,10,5000,,10000,15:30:00,,,N,U,N,ABC Ltd,ABC,120,105,Y,Y\n";
+  std::ofstream(accounts) << "ACC1,PC1\n";
+  const std::string good = "x01,01,ABC,IS,100,101.00,CLI,ACC1,PC1,02\n";
+  std::ofstream(bids) << good << "x01,01,ABC,IS,105,101.00,CLI,ACC1,PC1,02\n"
+                      << "x01,01,ZZZ,IS,100,101.00,CLI,ACC1,PC1,02\nnot a line\n";
+  std::string out, err;
+  EXPECT_EQ(run({"bids", "--format", "neat", "--issues", issues, "--accounts", accounts,
+                 "--write-accepted", accepted, bids},
+                out, err),
+            1);
+  EXPECT_EQ(out, bids + ":2: Qty should be a multiple of Lot which is 10 for this security\n" +
+                     bids + ":3: Issue Id not found\n" + bids +
+                     ":4: Invalid Format\n4 lines, 1 accepted, 3 refused\n");
+  std::ifstream written(accepted);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(written), {}), good);
+  // Without the issue file the checks against the issue are skipped.
+  EXPECT_EQ(run({"bids", "--format", "neat", bids}, out, err), 1);
+  EXPECT_EQ(out, bids + ":4: Invalid Format\n4 lines, 3 accepted, 1 refused\n");
+  EXPECT_EQ(run({"bids", "--format", "neat", "--issues", dir.file("none"), bids}, out, err), 2);
+  EXPECT_EQ(err, dir.file("none") + ": File Open Error\n");
+  EXPECT_EQ(run({"bids", "--format", "xml", bids}, out, err), 2);
 }
 
 }  // namespace
