@@ -1,5 +1,5 @@
-// What the basket screen needs of the running plug-in. The control block implements it; tests
-// replace it.
+// What the basket and bulk upload screens need of the running plug-in. The control block implements
+// it; tests replace it.
 #pragma once
 
 #include <string>
@@ -21,6 +21,12 @@ class BasketPort {
   virtual std::string participantCodeOf(const std::string& account) const = 0;
   // The issue whose symbol (symbol-series) is given; null when unknown.
   virtual const sOFSCol* issueOfSymbol(const std::string& symbol) const = 0;
+  // The issue with this issue id (OFS ID); null when unknown.
+  virtual const sOFSCol* issueOfId(const std::string& issueId) const = 0;
+  // The user's order with this OFS order number; null when there is none.
+  virtual const sOFSOrderInfo* orderOfNumber(const std::string& number) const = 0;
+  // The trading member's own code; empty when the host has not given it.
+  virtual std::string tmCode() const = 0;
 
  protected:
   ~BasketPort() = default;

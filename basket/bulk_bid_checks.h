@@ -17,3 +17,7 @@ std::string checkBidLine(const BidLine& line, const BidContext& context);
 // The order a checked line places, as the upload screen sends it: buy side, the margin flag of
 // the kind, cut-off for "MKT", "SYM-SERIES" and the client type the pro/cli and client id give.
 sOFSPlaceOrder placeOrderOf(const BidLine& line, const BidContext& context);
+// The client type a bid of this pro/cli word ("PRO", "CLI", ...) and client id is sent as.
+std::string bidClientType(std::string_view proCli, std::string_view clientId);
+// The pro/cli word of a line: a VT line's "F" and "C" stand for "PRO" and "CLI".
+std::string bidProCliWord(std::string_view proCli);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,8 +20,15 @@ struct BidFileLoad {
   bool opened = false;  // false: "File Open Error"; nothing was read
   std::vector<BidLine> rows;
   std::vector<BidRefusal> refusals;
-  int lines = 0;  // every non-empty piece read: the records the file holds
+  int lines = 0;         // every non-empty piece read: the records the file holds
+  bool stopped = false;  // the progress callback stopped the load; the lines read so far stay
 };
 
-BidFileLoad loadBidFile(const std::string& path, BidFileKind kind, const BidContext& context);
-BidFileLoad readBidFile(std::FILE* file, BidFileKind kind, const BidContext& context);
+// Told every few thousand lines with the bytes of the file read so far and its size (-1 when it
+// cannot be told); false stops the load.
+using BidLoadProgress = std::function<bool(long bytesRead, long bytesTotal)>;
+
+BidFileLoad loadBidFile(const std::string& path, BidFileKind kind, const BidContext& context,
+                        const BidLoadProgress& progress = {});
+BidFileLoad readBidFile(std::FILE* file, BidFileKind kind, const BidContext& context,
+                        const BidLoadProgress& progress = {});

@@ -22,27 +22,28 @@ std::string marginOf(const BidLine& l) {
   return margin == "No Margin" ? "NO" : "YES";
 }
 
-// The VT line's pro/cli letter stands for the word the other kinds write.
-std::string proCliWord(std::string_view proCli) {
+// An offline account without "-" is the member's own client, named with the TM code.
+void setClientType(sOFSPlaceOrder& order, const std::string& tmCode) {
+  order.clientType = bidClientType(order.proCli, order.clientId);
+  if (order.clientType == "OFFLINE" && order.clientId.find('-') == std::string::npos) {
+    order.clientId += "-" + tmCode;
+  }
+}
+
+}  // namespace
+
+std::string bidProCliWord(std::string_view proCli) {
   if (proCli == "F") return "PRO";
   if (proCli == "C") return "CLI";
   return std::string(proCli);
 }
 
-// "PRO"; any pro/cli but "CLI" is a walk-in; a client bid with an account is offline, and an
-// account without "-" is the member's own client, named with the TM code.
-void setClientType(sOFSPlaceOrder& order, const std::string& tmCode) {
-  if (order.proCli == "PRO") {
-    order.clientType = "PRO";
-  } else if (order.proCli != "CLI" || order.clientId.empty()) {
-    order.clientType = "WALKIN";
-  } else {
-    order.clientType = "OFFLINE";
-    if (order.clientId.find('-') == std::string::npos) order.clientId += "-" + tmCode;
-  }
+// "PRO"; any pro/cli but "CLI" is a walk-in; a client bid with an account is offline.
+std::string bidClientType(std::string_view proCli, std::string_view clientId) {
+  if (proCli == "PRO") return "PRO";
+  if (proCli != "CLI" || clientId.empty()) return "WALKIN";
+  return "OFFLINE";
 }
-
-}  // namespace
 
 std::string checkBidLine(const BidLine& line, const BidContext& context) {
   switch (line.kind()) {
@@ -66,7 +67,7 @@ sOFSPlaceOrder placeOrderOf(const BidLine& l, const BidContext& c) {
   o.price = text(C::Price);
   o.marketFlag = o.price == bulk::kMarketPrice ? "Y"s : "N"s;
   o.priceType = o.price == bulk::kMarketPrice ? "MKT"s : "L"s;
-  o.proCli = proCliWord(l[C::ProCli]);
+  o.proCli = bidProCliWord(l[C::ProCli]);
   o.proCliText = text(C::ProCli);
   o.clientId = text(C::ClientId);
   o.accountNumber = o.clientId;

@@ -11,6 +11,7 @@ class ScreenLauncher {
   virtual bool openOrderEntry(sOFSCol& issue) = 0;
   virtual bool openOrderBook() = 0;
   virtual bool openBasket() = 0;
+  virtual bool openBulkUpload() = 0;
   virtual bool openScripProperties(sOFSCol& issue) = 0;
   virtual bool openMarketDepth(sOFSCol& issue) = 0;
   // Null: add a new issue; otherwise modify this one.

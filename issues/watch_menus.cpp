@@ -17,6 +17,7 @@ std::vector<MenuEntry> watchContextMenu(WatchTab tab, bool hasAddIssueRight) {
     case WatchTab::Current:
       menu = {item(kCmdScripProperties, "Scrip Properties\tShift+F7"),
               item(kCmdBasketOrder, "Basket Order\tCtrl+B"),
+              item(kCmdBulkUpload, "Bulk Upload"),
               separator(),
               item(kCmdOrderEntry, "Order Entry\tF1"),
               item(kCmdOrderBook, "Order Book\tF3"),

@@ -10,6 +10,7 @@ enum WatchCommand : int {
   kCmdBasketOrder = 6,
   kCmdScripProperties = 7,
   kCmdMarketDepth = 8,
+  kCmdBulkUpload = 9,
   kCmdModifyIssue = 10,
   kCmdAddIssue = 11,
   kCmdAllotmentNse = 20,

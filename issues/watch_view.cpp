@@ -138,6 +138,9 @@ void CWatchView::runCommand(int command) {
     case kCmdBasketOrder:
       launcher_->openBasket();
       break;
+    case kCmdBulkUpload:
+      launcher_->openBulkUpload();
+      break;
     case kCmdScripProperties:
       if (issue) launcher_->openScripProperties(*issue);
       break;

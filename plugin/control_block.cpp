@@ -78,6 +78,14 @@ void COFSControlBlock::hostMessageBox(const std::string& text) const {
   if (services.showMessageBox) services.showMessageBox(text);
 }
 
+// Issues are few: a walk over the map is cheaper than keeping a second index in step.
+const sOFSCol* COFSControlBlock::issueOfId(const std::string& issueId) const {
+  for (const auto& [symbol, issue] : recordMaps.issues) {
+    if (issue && issue->issueId == issueId) return issue.get();
+  }
+  return nullptr;
+}
+
 OrderContext COFSControlBlock::orderContext() {
   return OrderContext{layer, userId(), identities[1], services.getUuid, &placedOrderRecords()};
 }

@@ -97,6 +97,12 @@ class COFSControlBlock final : public IIrbeNotifier,
   const sOFSCol* issueOfSymbol(const std::string& symbol) const override {
     return findRecord(recordMaps.issues, symbol);
   }
+  const sOFSCol* issueOfId(const std::string& issueId) const override;
+  const sOFSOrderInfo* orderOfNumber(const std::string& number) const override {
+    return findRecord(recordMaps.orders, number);
+  }
+  // The member's participant code is the first peer identity.
+  std::string tmCode() const override { return identities[1]; }
 
  private:
   // DispatchContext

@@ -12,6 +12,7 @@
 #include "plugin/control_block.h"
 #include "plugin/settings_paths.h"
 #include "ui/basket_dialog.h"
+#include "ui/bulk_upload_dialog.h"
 #include "ui/issue_list_model.h"
 #include "ui/list_memory.h"
 #include "ui/market_depth_dialog.h"
@@ -92,6 +93,8 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
 void WatchViewWidget::destroyDialogs() {
   delete basket_;
   basket_ = nullptr;
+  delete bulkUpload_;
+  bulkUpload_ = nullptr;
   delete orderEntry_;
   orderEntry_ = nullptr;
   delete marketDepth_;
@@ -208,6 +211,11 @@ bool WatchViewWidget::openOrderBook() {
 bool WatchViewWidget::openBasket() {
   if (!basket_) basket_ = new BasketDialog(block_, this);
   basket_->openOn(core_->selectedIssue());
+  return true;
+}
+bool WatchViewWidget::openBulkUpload() {
+  if (!bulkUpload_) bulkUpload_ = new BulkUploadDialog(block_, this);
+  bulkUpload_->openOn(core_->selectedIssue());
   return true;
 }
 bool WatchViewWidget::openScripProperties(sOFSCol& issue) {

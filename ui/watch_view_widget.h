@@ -12,6 +12,7 @@
 class COFSControlBlock;
 class IssueListModel;
 class BasketDialog;
+class BulkUploadDialog;
 class MarketDepthDialog;
 class OrderEntryDialog;
 class ScripPropertiesDialog;
@@ -52,6 +53,7 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   bool openOrderEntry(sOFSCol& issue) override;
   bool openOrderBook() override;
   bool openBasket() override;
+  bool openBulkUpload() override;
   bool openScripProperties(sOFSCol& issue) override;
   bool openMarketDepth(sOFSCol& issue) override;
   bool openIssueDetails(sOFSCol* issue) override;
@@ -68,6 +70,7 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   bool shownOnce_ = false;
   MarketDepthDialog* marketDepth_ = nullptr;
   BasketDialog* basket_ = nullptr;
+  BulkUploadDialog* bulkUpload_ = nullptr;
   OrderEntryDialog* orderEntry_ = nullptr;
   ScripPropertiesDialog* scripProperties_ = nullptr;
 };

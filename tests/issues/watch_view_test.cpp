@@ -108,7 +108,7 @@ Lines menuTexts(const std::vector<MenuEntry>& menu) {
 
 TEST_F(WatchViewTest, MenusWithoutTheRightEndAfterMarketDepth) {
   EXPECT_EQ(menuTexts(view().contextMenu(WatchTab::Current)),
-            (Lines{"7 Scrip Properties\tShift+F7", "6 Basket Order\tCtrl+B", "-",
+            (Lines{"7 Scrip Properties\tShift+F7", "6 Basket Order\tCtrl+B", "9 Bulk Upload", "-",
                    "4 Order Entry\tF1", "5 Order Book\tF3", "-", "8 Market Depth\tF6", "-"}));
   EXPECT_TRUE(view().contextMenu(WatchTab::Forthcoming).empty());
   EXPECT_TRUE(view().contextMenu(WatchTab::Past).empty());
@@ -117,7 +117,7 @@ TEST_F(WatchViewTest, MenusWithoutTheRightEndAfterMarketDepth) {
 TEST_F(WatchViewTest, MenusWithTheRightOfferAdministration) {
   host.state.rights.insert("VT: Add OFS Issue");
   Lines current = menuTexts(view().contextMenu(WatchTab::Current));
-  EXPECT_EQ(Lines(current.begin() + 8, current.end()),
+  EXPECT_EQ(Lines(current.begin() + 9, current.end()),
             (Lines{"11 Add OFS Issue\tCtrl+A", "10 Modify OFS Issue\tCtrl+M", "30 Upload OFS Issue",
                    "24 Export All OFS Issues", "-", "OFS Allotment Upload >", "  20 NSE",
                    "  21 BSE", "22 Cancel UnAlloted Orders for this Issue", "-"}));

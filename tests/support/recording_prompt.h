@@ -21,7 +21,14 @@ class RecordingPrompt : public PromptPort {
     return yes;
   }
   void queueAnswer(bool yes) { answers_.push_back(yes); }
-  std::string chooseFile(bool, const std::string&, const std::string&) override { return {}; }
+  // The file chooser answers with the queued paths, then cancels.
+  std::string chooseFile(bool, const std::string&, const std::string&) override {
+    if (files_.empty()) return {};
+    std::string path = files_.front();
+    files_.pop_front();
+    return path;
+  }
+  void queueFile(const std::string& path) { files_.push_back(path); }
   void focus(const std::string& field) override { focused_.push_back(field); }
 
   const Lines& messages() const { return messages_; }
@@ -36,6 +43,7 @@ class RecordingPrompt : public PromptPort {
 
  private:
   std::deque<bool> answers_;
+  std::deque<std::string> files_;
   Lines questions_;
   Lines messages_;
   Lines focused_;

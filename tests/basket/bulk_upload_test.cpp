@@ -1,0 +1,199 @@
+// The bulk upload screen: loading with its reports, placing with the client type each row is
+// sent as, and the grid written back in its kind's layout.
+#include "basket/bulk_upload.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+
+#include "tests/support/order_entry_fixture.h"
+
+namespace {
+
+class BulkUploadTest : public OrderEntryFixture {
+ protected:
+  void SetUp() override {
+    host.state.accounts = {"A1", "A2", "PC1"};
+    host.state.pcodes = {{"A1", "PC1"}, {"PC1", "PC1"}};
+    host.state.peer1 = "TM1";
+    start();
+    addIssue(nseIssue("IS"));
+    bulk = std::make_unique<CBulkUpload>(block());
+  }
+  void TearDown() override {
+    for (const std::string& path : paths) std::remove(path.c_str());
+  }
+
+  std::string file(const std::string& text) {
+    const std::string path = testing::TempDir() + "bulk_" + std::to_string(paths.size()) + ".csv";
+    std::ofstream(path, std::ios::binary) << text;
+    paths.push_back(path);
+    return path;
+  }
+  void load(BidFileKind kind, const std::string& text) {
+    bulk->selectKind(kind);
+    bulk->load(file(text));
+  }
+
+  std::unique_ptr<CBulkUpload> bulk;
+  std::vector<std::string> paths;
+};
+
+// The request and the client id of each send, as "om_put_order_ofs A1-TM1".
+Lines requests(const Lines& sends) {
+  Lines out;
+  for (const std::string& s : sends) {
+    const size_t name = s.find(' ', 5) + 1;
+    const size_t client = s.find(" 54001=\"");
+    const std::string id = client == std::string::npos
+                               ? ""
+                               : s.substr(client + 8, s.find('"', client + 8) - client - 8);
+    out.push_back(s.substr(name, s.find(' ', name) - name) + " " + id);
+  }
+  return out;
+}
+
+TEST_F(BulkUploadTest, VtReportsCountOnlyLinesTheReaderTook) {
+  load(BidFileKind::Vt,
+       "no comma here\n"
+       "XXX,CLI,A2,,I1,5000,150,100% Margin,N,Institutional,\n"
+       "NSEIPO,CLI,A2,,I1,5000,150,100% Margin,N,Institutional,\n");
+  EXPECT_EQ(prompt().messages(),
+            (Lines{"OFS Basket Upload Error:Basket Read Error: Invalid Format: Not a CSV File  In "
+                   "Line Number 0",
+                   "OFS Basket Upload Error:InValid Exchange In Line Number 1"}));
+  EXPECT_EQ(bulk->rows().size(), 1u);
+  EXPECT_FALSE(bulk->exportInvalidShown());
+  EXPECT_EQ(bulk->status(), "Baskets Loaded Successfully 1 Baskets are Retrieved");
+}
+
+TEST_F(BulkUploadTest, AFileOfRefusedLinesListsThemAndLoadsNothing) {
+  load(BidFileKind::Neat, " 01,01,ABC,XS,100,150,CLI,A1,PC1,02\n,01\n");
+  EXPECT_TRUE(bulk->rows().empty());
+  EXPECT_EQ(bulk->refusedLines(), (Lines{"failed to load due to Series mentioned is incorrect",
+                                         "failed to load due to Invalid Book Type"}));
+  EXPECT_TRUE(bulk->exportInvalidShown());
+  EXPECT_EQ(bulk->status(), "Baskets Loaded Successfully 0 Baskets are Retrieved");
+  EXPECT_TRUE(prompt().messages().empty());
+  bulk->load(file("") + "/missing");
+  EXPECT_EQ(prompt().messages(), Lines{"File Open Error"});
+}
+
+TEST_F(BulkUploadTest, EachKindPlacesItsRowsAsTheClientTypeTheyDerive) {
+  const struct {
+    const char* name;
+    BidFileKind kind;
+    std::string text;
+    Lines sent;
+  } cases[] = {
+      {"NEAT client, TM code added",
+       BidFileKind::Neat,
+       " 01,01,ABC,IS,100,150,CLI,A1,PC1,02\n",
+       {"om_put_order_ofs A1-TM1"}},
+      {"NEAT proprietary",
+       BidFileKind::Neat,
+       " 01,01,ABC,IS,100,150,PRO,PC1,PC1,01\n",
+       {"om_put_order_ofs PC1"}},
+      {"VT F is PRO, C is CLI",
+       BidFileKind::Vt,
+       "NSEIPO,PRO,PC1,PC1,I1,5000,150,100% Margin,N,Institutional,\n"
+       "NSEIPO,CLI,A2,,I1,5000,150,100% Margin,N,Institutional,\n",
+       {"om_put_order_ofs PC1", "om_put_order_ofs A2-TM1"}},
+      {"NOW offline",
+       BidFileKind::Now,
+       " OFFLINE,ABC,IS,100,150,CLI,A2,,NO,,\n",
+       {"om_put_order_ofs A2-TM1"}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    host.state.events.clear();
+    prompt().clear();
+    load(c.kind, c.text);
+    EXPECT_TRUE(bulk->refusedLines().empty()) << bulk->refusedLines().front();
+    bulk->place();
+    EXPECT_EQ(prompt().questions(), Lines{"Are you sure to place these Basket Orders?"});
+    EXPECT_EQ(requests(sends()), c.sent);
+    EXPECT_FALSE(bulk->placeEnabled());
+    bulk->reset();
+  }
+}
+
+TEST_F(BulkUploadTest, ModifyCancelRowsGoAsTheirIndicatorSays) {
+  sOFSOrderInfo order = openOrder("ABC-IS");
+  order.ofsOrderNo = "17";
+  order.pCode = "PC1";
+  block().recordMaps.orders["17"] = std::make_unique<sOFSOrderInfo>(order);
+  load(BidFileKind::NowModCxl,
+       " OFFLINE,17,ABC,IS,100,150.00,CLI,A1,PC1,NO,,C\n"
+       " OFFLINE,17,ABC,IS,200,160,CLI,A1,PC1,NO,,M\n");
+  ASSERT_EQ(bulk->rows().size(), 2u) << bulk->refusedLines().front();
+  bulk->place();
+  EXPECT_EQ(requests(sends()), (Lines{"om_cancel_order_ofs A1-TM1", "om_modify_order_ofs A1"}));
+}
+
+TEST_F(BulkUploadTest, NoToTheQuestionOrAnEmptyGridSendsNothing) {
+  bulk->place();
+  EXPECT_EQ(prompt().messages(), Lines{"Please Select an Order"});
+  load(BidFileKind::Neat, " 01,01,ABC,IS,100,150,CLI,A1,PC1,02\n");
+  prompt().queueAnswer(false);
+  bulk->place();
+  EXPECT_TRUE(sends().empty());
+  EXPECT_TRUE(bulk->placeEnabled());
+}
+
+TEST_F(BulkUploadTest, ExportedGridsLoadBackTheSameRows) {
+  const std::pair<BidFileKind, std::string> files[] = {
+      {BidFileKind::Neat, "x01,01,ABC,IS,100,150,CLI,A1,PC1,02\r\n"},
+      {BidFileKind::Now, " OFFLINE,ABC,IS,100,150,CLI,A2,,NO,,\n"},
+      {BidFileKind::Vt, "NSEIPO,CLI,A2,,I1,100,MKT,100% Margin,Y,Retail,,extra\n"},
+  };
+  for (const auto& [kind, text] : files) {
+    load(kind, text);
+    ASSERT_EQ(bulk->rows().size(), 1u) << text;
+    const BidLine first = bulk->rows()[0];
+    const std::string saved = file("");
+    prompt().queueFile(saved);
+    bulk->exportList();
+    bulk->reset();
+    bulk->load(saved);
+    ASSERT_EQ(bulk->rows().size(), 1u) << text;
+    for (int c = 0; c < static_cast<int>(BidColumn::Count); ++c) {
+      EXPECT_EQ(bulk->rows()[0][BidColumn(c)], first[BidColumn(c)]) << text;
+    }
+    bulk->reset();
+  }
+  bulk->exportList();
+  EXPECT_EQ(prompt().messages().back(), "No items in the list");
+}
+
+TEST_F(BulkUploadTest, ManualAddChecksInOrderThenJoinsTheVtGrid) {
+  bulk->open(block().issueOfId("I1"));
+  const struct {
+    std::function<void(BulkEntry&)> edit;
+    std::string message;
+  } steps[] = {
+      {[](BulkEntry& e) { e.orderType = "Retail"; }, "Please select AccountId"},
+      {[](BulkEntry& e) { e.clientId = "A2", e.proCli = "PRO", e.margin = "No Margin"; },
+       "Margin Indicator should be set as 100% for PRO order"},
+      {[](BulkEntry& e) { e.proCli = "CLI", e.margin = "100% Margin", e.clientId = "A-2"; },
+       "Please enter an alphanumeric value for Client Code."},
+      {[](BulkEntry& e) { e.clientId = "A2", e.pCode = "P-1"; },
+       "Please enter an alphanumeric value for participant code."},
+      {[](BulkEntry& e) { e.pCode.clear(); }, "Please enter some quantity"},
+      {[](BulkEntry& e) { e.quantity = "1234567890"; }, "Qty. should not be more than 9 Digits"},
+      {[](BulkEntry& e) { e.quantity = "100"; }, "Please enter price"},
+      {[](BulkEntry& e) { e.price = "100"; }, "Price Should be more than Floor Price 100.0000"},
+      {[](BulkEntry& e) { e.price = "150"; }, ""},
+  };
+  for (const auto& step : steps) {
+    prompt().clear();
+    step.edit(bulk->entry());
+    bulk->add();
+    EXPECT_EQ(prompt().messages(), step.message.empty() ? Lines{} : Lines{step.message})
+        << step.message;
+  }
+  EXPECT_EQ(bulk->grid(BidFileKind::Vt).size(), 1u);
+}
+
+}  // namespace
