@@ -4,6 +4,7 @@
 
 #include "basket/bulk_bid_checks.h"
 #include "basket/bulk_bid_readers.h"
+#include "domain/issue_terms.h"
 #include "messaging/order_requests.h"
 
 using C = BidColumn;
@@ -11,6 +12,7 @@ using C = BidColumn;
 void CBulkUpload::open(const sOFSCol* issue) {
   issue_ = issue;
   entry_ = BulkEntry{};
+  cutOffAllowed_ = issue ? cutOffAllowanceOf(*issue) : std::string();
   if (issue) {
     entry_.ofsId = issue->issueId;
     entry_.exchange = issue->exchange == "bse_ipo" ? "BSEIPO" : "NSEIPO";
@@ -20,7 +22,13 @@ void CBulkUpload::open(const sOFSCol* issue) {
 
 void CBulkUpload::selectKind(BidFileKind kind) {
   kind_ = kind;
-  changed(true);
+  gridChanged();
+}
+
+void CBulkUpload::selectClientId(const std::string& account) {
+  entry_.clientId = account;
+  entry_.pCode = port_.participantCodeOf(account);
+  changed();
 }
 
 void CBulkUpload::selectOrderType(const std::string& orderType) {
@@ -75,8 +83,7 @@ void CBulkUpload::load(const std::string& path, const BidLoadProgress& progress)
   takeRefusals(load);
   status_ =
       "Baskets Loaded Successfully " + std::to_string(load.rows.size()) + " Baskets are Retrieved";
-  placeEnabled_ = true;
-  changed(true);
+  gridChanged();
 }
 
 // The VT kind reports each refusal as it comes, the others list them for export.
@@ -100,22 +107,23 @@ void CBulkUpload::add() {
   if (message.empty()) message = checkBidLine(row, context());
   if (!message.empty()) return prompt.message(message);
   grids_[slot(BidFileKind::Vt)].push_back(std::move(row));
-  placeEnabled_ = true;
-  changed(kind_ == BidFileKind::Vt);
+  gridChanged();
 }
 
 void CBulkUpload::place(const BulkPlaceProgress& progress) {
   PromptPort& prompt = port_.prompt();
   const std::vector<BidLine>& rows = shown();
-  if (rows.empty()) return prompt.message("Please Select an Order");
+  size_t& placed = placed_[slot(kind_)];
+  if (placed >= rows.size()) return prompt.message("Please Select an Order");
   if (!prompt.question("Are you sure to place these Basket Orders?")) return;
-  // Place stays off until the grid changes, so no row goes twice.
   placeEnabled_ = false;
   changed();
   const BidContext c = context();
-  for (size_t i = 0; i < rows.size(); ++i) {
-    sendRow(rows[i], c);
-    if (progress) progress(i + 1, rows.size());
+  const size_t first = placed;
+  // Counted as each row goes, so that no row is sent twice whatever a send does.
+  for (; placed < rows.size(); ++placed) {
+    sendRow(rows[placed], c);
+    if (progress) progress(placed + 1 - first, rows.size() - first);
   }
 }
 
@@ -140,16 +148,21 @@ void CBulkUpload::sendRow(const BidLine& row, const BidContext& c) {
 
 void CBulkUpload::reset() {
   shown().clear();
+  placed_[slot(kind_)] = 0;
   refused_.clear();
   status_.clear();
-  placeEnabled_ = true;
-  changed(true);
+  gridChanged();
 }
 
 void CBulkUpload::deleteRow(size_t index) {
   std::vector<BidLine>& grid = shown();
   if (index >= grid.size()) return;
   grid.erase(grid.begin() + static_cast<std::ptrdiff_t>(index));
+  if (index < placed_[slot(kind_)]) --placed_[slot(kind_)];
+  gridChanged();
+}
+
+void CBulkUpload::gridChanged() {
   placeEnabled_ = true;
   changed(true);
 }

@@ -48,10 +48,19 @@ class CBulkUpload {
   const std::vector<std::string>& refusedLines() const { return refused_; }
   bool exportInvalidShown() const { return !refused_.empty(); }
   const std::string& status() const { return status_; }
+  // Off from a placement until the grid changes.
   bool placeEnabled() const { return placeEnabled_; }
+  // The rows at the top of the shown grid already sent; Place sends only those after them.
+  size_t placedRows() const { return placed_[slot(kind_)]; }
 
   BulkEntry& entry() { return entry_; }
   const BulkEntry& entry() const { return entry_; }
+  // The accounts the entry's "Client ID" offers.
+  std::vector<std::string> accounts() const { return port_.userAccounts(); }
+  // Whether the issue takes cut-off bids ("Y"), as the entry's "CutOff" shows it.
+  const std::string& cutOffAllowed() const { return cutOffAllowed_; }
+  // The account of the entry; its participant code comes with it.
+  void selectClientId(const std::string& account);
   // The order type of the entry, with the participant code rules applied at once.
   void selectOrderType(const std::string& orderType);
 
@@ -60,6 +69,7 @@ class CBulkUpload {
   // Loads `path` into the selected kind's grid, in place of what it held.
   void load(const std::string& path, const BidLoadProgress& progress = {});
   void add();  // "Add": the entry as a VT row
+  // Sends every row of the shown grid not yet sent, after one question.
   void place(const BulkPlaceProgress& progress = {});
   void exportList();
   void exportInvalid();  // "Export Invalid Orders"
@@ -80,9 +90,14 @@ class CBulkUpload {
   BulkUploadListener* listener_ = nullptr;
   const sOFSCol* issue_ = nullptr;
   BidFileKind kind_ = BidFileKind::Vt;
+  void gridChanged();
+
   std::array<std::vector<BidLine>, 4> grids_;
+  // Rows only join a grid at its end, so the sent ones are always its first rows.
+  std::array<size_t, 4> placed_{};
   std::vector<std::string> refused_;
   std::string status_;
   bool placeEnabled_ = true;
   BulkEntry entry_;
+  std::string cutOffAllowed_;
 };

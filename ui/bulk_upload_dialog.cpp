@@ -1,5 +1,7 @@
 #include "ui/bulk_upload_dialog.h"
 
+#include <algorithm>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -121,14 +123,22 @@ QWidget* BulkUploadDialog::entryFields() {
           [this](const QString& type) { screen_.selectOrderType(type.toStdString()); });
   place("Order Type", orderType);
   place("Pro/Cli", choice(&BulkEntry::proCli, {"CLI", "PRO"}));
-  place("Client ID", text(&BulkEntry::clientId));
+  clientId_ = new QComboBox(box);
+  clientId_->setEditable(true);
+  connect(clientId_, &QComboBox::textActivated, this,
+          [this](const QString& account) { screen_.selectClientId(account.toStdString()); });
+  place("Client ID", clientId_);
   place("Client Category", text(&BulkEntry::category));
   place("Participant code", text(&BulkEntry::pCode));
   place("Margin", choice(&BulkEntry::margin, {"No Margin", "100% Margin"}));
+  cutOffAllowed_ = new QLineEdit(box);
+  cutOffAllowed_->setReadOnly(true);
+  place("CutOff", cutOffAllowed_);
   cutOff_ = new QCheckBox("Cut Off", box);
   connect(cutOff_, &QCheckBox::clicked, this, [this](bool ticked) {
     screen_.entry().cutOff = ticked;
-    if (ticked) screen_.entry().price = "MKT";
+    // A cut-off bid is at the market; unticked, the price is typed again.
+    screen_.entry().price = ticked ? std::string("MKT") : std::string();
     fieldsChanged();
   });
   grid->addWidget(cutOff_, at / 4, (at % 4) * 2 + 1);
@@ -187,6 +197,8 @@ void BulkUploadDialog::deleteRow() {
 }
 
 void BulkUploadDialog::openOn(const sOFSCol* issue) {
+  clientId_->clear();
+  for (const std::string& account : screen_.accounts()) clientId_->addItem(q(account));
   screen_.open(issue);
   rowsChanged();
   show();
@@ -201,6 +213,8 @@ void BulkUploadDialog::fieldsChanged() {
   }
   for (auto& [list, field] : choices_) list->setCurrentText(q(entry.*field));
   cutOff_->setChecked(entry.cutOff);
+  clientId_->setCurrentText(q(entry.clientId));
+  cutOffAllowed_->setText(q(screen_.cutOffAllowed()));
   const auto kind =
       std::find(CBulkUpload::kFileKinds.begin(), CBulkUpload::kFileKinds.end(), screen_.kind());
   fileType_->setCurrentIndex(static_cast<int>(kind - CBulkUpload::kFileKinds.begin()));

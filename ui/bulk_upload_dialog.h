@@ -48,6 +48,8 @@ class BulkUploadDialog : public QDialog, private BulkUploadListener {
   QListView* refused_;
   QLabel* status_;
   QCheckBox* cutOff_;
+  QComboBox* clientId_;
+  QLineEdit* cutOffAllowed_;
   QPushButton* place_;
   QPushButton* exportInvalid_;
   std::vector<std::pair<QLineEdit*, std::string BulkEntry::*>> texts_;

@@ -132,14 +132,24 @@ TEST_F(BulkUploadTest, ModifyCancelRowsGoAsTheirIndicatorSays) {
   EXPECT_EQ(requests(sends()), (Lines{"om_cancel_order_ofs A1-TM1", "om_modify_order_ofs A1"}));
 }
 
-TEST_F(BulkUploadTest, NoToTheQuestionOrAnEmptyGridSendsNothing) {
+TEST_F(BulkUploadTest, EachRowIsSentOnceAndNoToTheQuestionSendsNothing) {
   bulk->place();
   EXPECT_EQ(prompt().messages(), Lines{"Please Select an Order"});
-  load(BidFileKind::Neat, " 01,01,ABC,IS,100,150,CLI,A1,PC1,02\n");
+  const std::string line = " 01,01,ABC,IS,100,150,CLI,A1,PC1,02\n";
+  load(BidFileKind::Neat, line + line);
   prompt().queueAnswer(false);
   bulk->place();
   EXPECT_TRUE(sends().empty());
   EXPECT_TRUE(bulk->placeEnabled());
+  bulk->place();
+  EXPECT_EQ(sends().size(), 2u);
+  bulk->deleteRow(0);
+  bulk->load(file(line));
+  EXPECT_TRUE(bulk->placeEnabled());
+  bulk->place();
+  EXPECT_EQ(sends().size(), 3u);
+  bulk->place();
+  EXPECT_EQ(prompt().messages().back(), "Please Select an Order");
 }
 
 TEST_F(BulkUploadTest, ExportedGridsLoadBackTheSameRows) {
