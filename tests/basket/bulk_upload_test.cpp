@@ -80,6 +80,21 @@ TEST_F(BulkUploadTest, AFileOfRefusedLinesListsThemAndLoadsNothing) {
   EXPECT_EQ(prompt().messages(), Lines{"File Open Error"});
 }
 
+TEST_F(BulkUploadTest, AStoppedLoadKeepsTheRowsReadBeforeIt) {
+  std::string text;
+  for (int i = 0; i < 20000; ++i) text += " 01,01,ABC,IS,100,150,CLI,A1,PC1,02\n";
+  bulk->selectKind(BidFileKind::Neat);
+  long seen = 0, total = 0;
+  bulk->load(file(text), [&](long done, long size) {
+    seen = done, total = size;
+    return false;
+  });
+  EXPECT_EQ(bulk->rows().size(), 8192u);
+  EXPECT_EQ(total, static_cast<long>(text.size()));
+  EXPECT_GT(seen, 0);
+  EXPECT_LE(seen, total);
+}
+
 TEST_F(BulkUploadTest, EachKindPlacesItsRowsAsTheClientTypeTheyDerive) {
   const struct {
     const char* name;
