@@ -219,6 +219,8 @@ void BulkUploadDialog::fieldsChanged() {
       std::find(CBulkUpload::kFileKinds.begin(), CBulkUpload::kFileKinds.end(), screen_.kind());
   fileType_->setCurrentIndex(static_cast<int>(kind - CBulkUpload::kFileKinds.begin()));
   status_->setText(q(screen_.status()));
+  // A load runs without the event loop: the waiting text must be drawn before it starts.
+  if (status_->isVisible()) status_->repaint();
   place_->setEnabled(screen_.placeEnabled());
   exportInvalid_->setVisible(screen_.exportInvalidShown());
   refused_->setVisible(screen_.exportInvalidShown());
