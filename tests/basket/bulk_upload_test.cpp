@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "tests/support/order_entry_fixture.h"
+#include "tests/support/scratch_dir.h"
 
 namespace {
 
@@ -21,14 +22,10 @@ class BulkUploadTest : public OrderEntryFixture {
     addIssue(nseIssue("IS"));
     bulk = std::make_unique<CBulkUpload>(block());
   }
-  void TearDown() override {
-    for (const std::string& path : paths) std::remove(path.c_str());
-  }
-
+  // A file of the test's own, in a folder removed with the fixture.
   std::string file(const std::string& text) {
-    const std::string path = testing::TempDir() + "bulk_" + std::to_string(paths.size()) + ".csv";
+    const std::string path = dir.file("bulk_" + std::to_string(files++) + ".csv");
     std::ofstream(path, std::ios::binary) << text;
-    paths.push_back(path);
     return path;
   }
   void load(BidFileKind kind, const std::string& text) {
@@ -36,8 +33,9 @@ class BulkUploadTest : public OrderEntryFixture {
     bulk->load(file(text));
   }
 
+  ScratchDir dir;
+  int files = 0;
   std::unique_ptr<CBulkUpload> bulk;
-  std::vector<std::string> paths;
 };
 
 // The request and the client id of each send, as "om_put_order_ofs A1-TM1".
