@@ -121,8 +121,12 @@ int64_t SimExchange::today() const {
 std::optional<Account> SimExchange::account(const std::string& id) const {
   for (const Account& account : data_.accounts)
     if (account.id == id) return account;
-  if (!options_.terminalAccount) return std::nullopt;
-  if (auto pCode = options_.terminalAccount(id)) return Account{id, *pCode, "", ""};
+  if (options_.terminalAccount)
+    if (auto pCode = options_.terminalAccount(id)) return Account{id, *pCode, "", ""};
+  // Bulk bids of a member's client name the account with the member's code after a "-"
+  // ("A1-TM1"): the account is the client's.
+  const size_t dash = id.find('-');
+  if (dash != std::string::npos && dash > 0) return account(id.substr(0, dash));
   return std::nullopt;
 }
 
