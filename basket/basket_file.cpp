@@ -8,6 +8,7 @@
 #include "basket/bid_line_reader.h"
 #include "domain/client_rules.h"
 #include "domain/exchange_names.h"
+#include "domain/file_replace.h"
 #include "domain/series.h"
 
 using namespace std::string_literals;
@@ -24,19 +25,6 @@ constexpr std::array<std::string sOFSPlaceOrder::*, kBasketColumnCount> kColumnF
 constexpr char kFileOpenError[] = "File Open Error";
 
 using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-// The whole text goes to a file beside the target, which then replaces it, so a reader never
-// sees half a basket and a failure leaves the old one.
-bool replaceFile(const std::string& path, const std::string& text) {
-  const std::string temporary = path + ".tmp";
-  std::FILE* out = std::fopen(temporary.c_str(), "wb");
-  if (!out) return false;
-  const bool written = std::fwrite(text.data(), 1, text.size(), out) == text.size();
-  const bool closed = std::fclose(out) == 0;
-  if (written && closed && std::rename(temporary.c_str(), path.c_str()) == 0) return true;
-  std::remove(temporary.c_str());
-  return false;
-}
 
 void fillRow(std::array<std::string, kBasketColumnCount>& fields, const std::string& userId,
              sOFSPlaceOrder& row) {
@@ -78,7 +66,8 @@ std::string saveBasketFile(const std::string& path,
   if (rows.empty()) return "No items in the list";
   std::string text;
   for (const sOFSPlaceOrder* row : rows) (text += basketLine(*row)) += '\n';
-  if (!replaceFile(path, text)) return " Basket File Write Error: "s + kFileOpenError;
+  if (writeTextFile(path, text) != TextFileWrite::Written)
+    return " Basket File Write Error: "s + kFileOpenError;
   return "Basket File Created Successfully";
 }
 

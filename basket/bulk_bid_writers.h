@@ -6,14 +6,9 @@
 #include <vector>
 
 #include "basket/bulk_bid_line.h"
+#include "domain/file_replace.h"
 
 // The row as a line of its kind, its line feed included. The VT kind writes "CLI" for a client
 // row and "PRO" for any other; the other kinds keep the row's leading character, which their
 // readers skip.
 std::string bidLineText(const BidLine& row);
-
-enum class TextFileWrite { Written, OpenFailed, WriteFailed };
-
-// Writes the text to a temporary file beside `path`, then renames it over `path`, so a failed
-// write leaves whatever was there before.
-TextFileWrite writeTextFile(const std::string& path, const std::string& text);

@@ -1,7 +1,6 @@
 #include "domain/csv_file.h"
 
-#include <cstdio>
-#include <fstream>
+#include "domain/file_replace.h"
 
 std::string csvLine(const CsvRow& row) {
   std::string line;
@@ -23,18 +22,7 @@ std::string csvLine(const CsvRow& row) {
 }
 
 bool writeCsvFile(const std::string& path, const std::vector<CsvRow>& rows) {
-  const std::string temporary = path + ".tmp";
-  {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    for (const CsvRow& row : rows) out << csvLine(row) << "\r\n";
-    if (!out.flush()) {
-      out.close();
-      std::remove(temporary.c_str());
-      return false;
-    }
-  }
-  if (std::rename(temporary.c_str(), path.c_str()) == 0) return true;
-  std::remove(temporary.c_str());
-  return false;
+  std::string text;
+  for (const CsvRow& row : rows) text += csvLine(row) + "\r\n";
+  return writeTextFile(path, text) == TextFileWrite::Written;
 }

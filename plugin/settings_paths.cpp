@@ -6,6 +6,7 @@
 #include <fstream>
 #include <vector>
 
+#include "domain/file_replace.h"
 #include "plugin/host_path.h"
 
 std::string formatPlacement(const WindowPlacement& p) {
@@ -77,12 +78,7 @@ bool writeProfileString(const std::string& hostPath, const std::string& section,
     lines.push_back("[" + section + "]");
     lines.push_back(entry);
   }
-  const std::string temporary = path + ".tmp";
-  {
-    std::ofstream out(temporary, std::ios::trunc);
-    if (!out) return false;
-    for (const std::string& line : lines) out << line << "\n";
-    if (!out.flush()) return false;
-  }
-  return std::rename(temporary.c_str(), path.c_str()) == 0;
+  std::string text;
+  for (const std::string& line : lines) text += line + "\n";
+  return writeTextFile(path, text) == TextFileWrite::Written;
 }

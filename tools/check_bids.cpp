@@ -1,11 +1,10 @@
 // ofs-check bids: a bulk bid file through the upload screen's readers and checks.
-#include <cstdio>
-#include <fstream>
 #include <map>
 #include <memory>
 #include <ostream>
 
 #include "basket/bulk_bid_file.h"
+#include "domain/file_replace.h"
 #include "tools/check_commands.h"
 #include "tools/context_files.h"
 
@@ -37,22 +36,11 @@ bool readContext(const BidsOptions& o, BidLookups& lookups, std::ostream& err) {
   return true;
 }
 
-// The accepted lines exactly as read, through a temporary file so a failure leaves none.
+// The accepted lines exactly as read.
 bool writeAccepted(const std::string& path, const std::vector<BidLine>& rows) {
-  const std::string temporary = path + ".tmp";
-  {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    for (const BidLine& row : rows) out << row.text();
-    if (!out.flush()) {
-      out.close();
-      std::remove(temporary.c_str());
-      return false;
-    }
-  }
-  if (std::rename(temporary.c_str(), path.c_str()) == 0) return true;
-  std::remove(temporary.c_str());
-  return false;
+  std::string text;
+  for (const BidLine& row : rows) text += row.text();
+  return writeTextFile(path, text) == TextFileWrite::Written;
 }
 
 int checkBids(const BidsOptions& o, std::ostream& out, std::ostream& err) {
