@@ -19,3 +19,18 @@ void BidLine::setField(size_t n, size_t offset, size_t length) {
   spans_[n] = {static_cast<uint16_t>(offset), static_cast<uint16_t>(length)};
   if (n >= count_) count_ = static_cast<uint8_t>(n + 1);
 }
+
+std::span<const BidColumn> bidFileColumns(BidFileKind kind) {
+  using namespace bid_detail;
+  switch (kind) {
+    case BidFileKind::Neat:
+      return kNeatColumns;
+    case BidFileKind::Now:
+      return kNowColumns;
+    case BidFileKind::NowModCxl:
+      return kNowModCxlColumns;
+    case BidFileKind::Vt:
+      break;
+  }
+  return kVtColumns;
+}

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -45,8 +45,24 @@ namespace bid_detail {
 using C = BidColumn;
 using ColumnPlaces = std::array<int8_t, static_cast<size_t>(C::Count)>;
 
-// Where each column stands in a kind's file (0 is the first field, -1 none), from its column list.
-constexpr ColumnPlaces placesOf(std::initializer_list<C> fileOrder) {
+// Each kind's fields in the file's order: what its reader takes and its writer writes.
+inline constexpr std::array<C, 0> kNoColumns{};
+inline constexpr std::array kNeatColumns{C::BookType, C::BuySell, C::Symbol, C::Series,
+                                         C::Quantity, C::Price,   C::ProCli, C::ClientId,
+                                         C::PCode,    C::Margin};
+inline constexpr std::array kNowColumns{C::NowClientType, C::Symbol,     C::Series,    C::Quantity,
+                                        C::Price,         C::ProCli,     C::ClientId,  C::PCode,
+                                        C::Margin,        C::WalkinCode, C::WalkinName};
+inline constexpr std::array kNowModCxlColumns{
+    C::NowClientType, C::NowOrderNumber, C::Symbol, C::Series, C::Quantity,   C::Price,
+    C::ProCli,        C::ClientId,       C::PCode,  C::Margin, C::WalkinCode, C::ModCxl};
+inline constexpr std::array kVtColumns{C::Exchange, C::ProCli,    C::ClientId, C::PCode,
+                                       C::IssueId,  C::Quantity,  C::Price,    C::Margin,
+                                       C::CutOff,   C::OrderType, C::Category};
+
+// Where each column stands in a kind's file (0 is the first field, -1 none).
+template <size_t N>
+constexpr ColumnPlaces placesOf(const std::array<C, N>& fileOrder) {
   ColumnPlaces places{};
   for (auto& p : places) p = -1;
   int8_t n = 0;
@@ -56,18 +72,14 @@ constexpr ColumnPlaces placesOf(std::initializer_list<C> fileOrder) {
 
 // By kind number; the accessors are inline because the checks ask for fields many times a line.
 inline constexpr std::array<ColumnPlaces, 5> kPlaces = {
-    placesOf({}),
-    placesOf({C::BookType, C::BuySell, C::Symbol, C::Series, C::Quantity, C::Price, C::ProCli,
-              C::ClientId, C::PCode, C::Margin}),
-    placesOf({C::NowClientType, C::Symbol, C::Series, C::Quantity, C::Price, C::ProCli, C::ClientId,
-              C::PCode, C::Margin, C::WalkinCode, C::WalkinName}),
-    placesOf({C::NowClientType, C::NowOrderNumber, C::Symbol, C::Series, C::Quantity, C::Price,
-              C::ProCli, C::ClientId, C::PCode, C::Margin, C::WalkinCode, C::ModCxl}),
-    placesOf({C::Exchange, C::ProCli, C::ClientId, C::PCode, C::IssueId, C::Quantity, C::Price,
-              C::Margin, C::CutOff, C::OrderType, C::Category}),
+    placesOf(kNoColumns),        placesOf(kNeatColumns), placesOf(kNowColumns),
+    placesOf(kNowModCxlColumns), placesOf(kVtColumns),
 };
 
 }  // namespace bid_detail
+
+// A kind's fields in the file's order.
+std::span<const BidColumn> bidFileColumns(BidFileKind kind);
 
 class BidLine {
  public:
