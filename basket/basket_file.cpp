@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <memory>
 
-#include "basket/bid_field_splitter.h"
-#include "basket/bid_line_reader.h"
+#include "domain/bid_field_splitter.h"
+#include "domain/bid_line_reader.h"
 #include "domain/client_rules.h"
 #include "domain/exchange_names.h"
 #include "domain/file_replace.h"

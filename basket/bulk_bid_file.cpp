@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "basket/bid_line_reader.h"
+#include "domain/bid_line_reader.h"
 #include "basket/bulk_bid_checks.h"
 #include "basket/bulk_bid_readers.h"
 

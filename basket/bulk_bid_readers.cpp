@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "basket/bid_field_splitter.h"
-#include "basket/bid_line_reader.h"
+#include "domain/bid_field_splitter.h"
+#include "domain/bid_line_reader.h"
 
 namespace {
 

@@ -17,37 +17,37 @@ struct sAssetInfo {
 
 // An OFS issue; one per issue symbol (field 10100).
 struct sOFSCol {
-  std::string issueId;   // 63032, "OFS ID"
-  std::string exchange;  // 63001, "nse_ipo" or "bse_ipo"
-  std::string field3;    // shown as "Symbol"
-  std::string category;  // 10610, key into the categories map; shown as "Series"
-  std::string field13041;
-  std::string floorPrice;  // 63022, rupees
-  std::string field54079;  // "RMS Price"
-  std::string field49165;  // "Open Date"
-  std::string field79;     // "Close Date"
-  std::string field107;
-  std::string minQuantityText;  // 55
-  std::string issueSizeText;    // 10062
-  std::string lotSizeText;      // 10027, shown as "Lot Size"
-  std::string field54009;
-  std::string hniLimit;  // 64211, rupees
-  std::string field67;
-  std::string field12019;
-  std::string field12020;
-  std::string tickSizeText;  // 63005, rupees
-  std::string field13004;
-  std::string field10046;
-  std::string field63059;  // "CutOff"
-  std::string symbol;      // 10100, the issues map key
-  std::string field49033;  // "Company Name"
-  std::string field61002;
+  std::string issueId;           // 63032, "OFS ID"
+  std::string exchange;          // 63001, "nse_ipo" or "bse_ipo"
+  std::string field3;            // the symbol name ("Symbol Name"), shown as "Symbol"
+  std::string category;          // 10610, key into the categories map; shown as "Series"
+  std::string field13041;        // ISIN
+  std::string floorPrice;        // 63022, rupees
+  std::string field54079;        // "RMS Price"
+  std::string field49165;        // "Open Date"
+  std::string field79;           // "Close Date"
+  std::string field107;          // final modification date
+  std::string minQuantityText;   // 55
+  std::string issueSizeText;     // 10062
+  std::string lotSizeText;       // 10027, shown as "Lot Size"
+  std::string field54009;        // retail limit, rupees
+  std::string hniLimit;          // 64211, the non-retail individual limit, rupees
+  std::string field67;           // order closing time, "HH:MM:SS"
+  std::string field12019;        // OFS discount
+  std::string field12020;        // discount kind: "V" value, "P" percentage
+  std::string tickSizeText;      // 63005, rupees
+  std::string field13004;        // face value, rupees
+  std::string field10046;        // prospectus URL
+  std::string field63059;        // "CutOff": "Y" when cut-off bids are taken
+  std::string symbol;            // 10100, the issues map key
+  std::string field49033;        // "Company Name"
+  std::string field61002;        // issue notes
   std::string assetSymbol;       // 54730, the underlying's symbol in the cash market
   std::string field63023;        // "Ceiling Price"
   std::string field54803;        // "Indicative Price"
-  std::string biddingFlag;       // 54571, "N": closed to bidding by the administrator
+  std::string biddingFlag;       // 54571, "N": closed to bidding (order placement "N")
   std::string modifyCancelFlag;  // 61362, "N": orders may not be modified or cancelled
-  std::string field63017;
+  std::string field63017;        // symbol display, "Y" or "N"
 
   // Numeric copies of the text above.
   int64_t minQuantity = 0;

@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "domain/prompt_port.h"
+#include "domain/records.h"
 #include "issues/watch_menus.h"
 #include "messaging/market_depth_state.h"
 #include "messaging/message_layer.h"
@@ -35,6 +37,8 @@ class IssuesPort {
   virtual bool registerHotkey(void* window, const HotkeyRow& row) = 0;
   // The Market Depth window's state: present while the window is open.
   virtual std::unique_ptr<MarketDepthState>& marketDepthState() = 0;
+  // Every issue the plug-in knows, in the order the issue lists brought them.
+  virtual std::vector<const sOFSCol*> knownIssues() const = 0;
   // Subscribes the price feed of an instrument once; later calls do nothing.
   virtual void ensurePriceFeed(const std::string& exchange, const std::string& symbol) = 0;
 

@@ -79,6 +79,14 @@ void COFSControlBlock::hostMessageBox(const std::string& text) const {
 }
 
 // Issues are few: a walk over the map is cheaper than keeping a second index in step.
+std::vector<const sOFSCol*> COFSControlBlock::knownIssues() const {
+  std::vector<const sOFSCol*> issues;
+  issues.reserve(recordMaps.issueSymbols.size());
+  for (const std::string& symbol : recordMaps.issueSymbols)
+    if (const sOFSCol* issue = findRecord(recordMaps.issues, symbol)) issues.push_back(issue);
+  return issues;
+}
+
 const sOFSCol* COFSControlBlock::issueOfId(const std::string& issueId) const {
   for (const auto& [symbol, issue] : recordMaps.issues) {
     if (issue && issue->issueId == issueId) return issue.get();

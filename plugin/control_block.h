@@ -138,6 +138,7 @@ class COFSControlBlock final : public IIrbeNotifier,
   CWatchView* attachedWatchView() const override { return watchView; }
   bool registerHotkey(void* window, const HotkeyRow& row) override;
   std::unique_ptr<MarketDepthState>& marketDepthState() override { return marketDepth_; }
+  std::vector<const sOFSCol*> knownIssues() const override;
 
   std::set<std::string> pricedInstruments_;
   // Present while the Market Depth window is open.

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <vector>
 
-#include "basket/bid_field_splitter.h"
+#include "domain/bid_field_splitter.h"
 #include "domain/number_text.h"
 
 namespace {

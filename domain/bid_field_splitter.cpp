@@ -1,4 +1,4 @@
-#include "basket/bid_field_splitter.h"
+#include "domain/bid_field_splitter.h"
 
 #include <algorithm>
 

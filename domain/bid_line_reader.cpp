@@ -1,4 +1,4 @@
-#include "basket/bid_line_reader.h"
+#include "domain/bid_line_reader.h"
 
 #include <algorithm>
 #include <cstring>
