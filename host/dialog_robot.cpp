@@ -51,7 +51,10 @@ bool DialogRobot::eventFilter(QObject* watched, QEvent* event) {
       QTimer::singleShot(0, box,
                          [box, yes] { box->done(yes ? QMessageBox::Yes : QMessageBox::No); });
     } else {
-      transcript().line("msgbox " + otpx::quote(text));
+      // A box with a caption of its own shows it before its text.
+      const std::string title = box->windowTitle().toStdString();
+      transcript().line("msgbox " + (title.empty() ? "" : otpx::quote(title) + " ") +
+                        otpx::quote(text));
       QTimer::singleShot(0, box, [box] { box->done(QMessageBox::Ok); });
     }
     return false;

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -51,6 +52,13 @@ std::string setField(QWidget& screen, const std::string& label, const std::strin
   if (auto* combo = qobject_cast<QComboBox*>(field); combo && combo->isEditable()) {
     combo->setEditText(value);
     emit combo->textActivated(value);
+    return {};
+  }
+  // Date and time pickers take the text in the form they show.
+  if (auto* picker = qobject_cast<QDateTimeEdit*>(field)) {
+    const QDateTime when = QDateTime::fromString(value, picker->displayFormat());
+    if (!when.isValid()) return "\"" + label + "\" does not take \"" + text + "\"";
+    picker->setDateTime(when);
     return {};
   }
   if (auto* area = qobject_cast<QPlainTextEdit*>(field)) {

@@ -18,6 +18,12 @@ void QtPrompt::message(const std::string& text) {
   box.exec();
 }
 
+void QtPrompt::titledMessage(const std::string& title, const std::string& text) {
+  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), QString::fromStdString(text),
+                  QMessageBox::Ok, parentWindow());
+  box.exec();
+}
+
 bool QtPrompt::question(const std::string& text) {
   QMessageBox box(QMessageBox::Question, QString(), QString::fromStdString(text),
                   QMessageBox::Yes | QMessageBox::No, parentWindow());

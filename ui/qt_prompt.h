@@ -8,6 +8,7 @@ class QWidget;
 class QtPrompt : public PromptPort {
  public:
   void message(const std::string& text) override;
+  void titledMessage(const std::string& title, const std::string& text) override;
   bool question(const std::string& text) override;
   std::string chooseFile(bool saving, const std::string& suggestedName,
                          const std::string& filter) override;

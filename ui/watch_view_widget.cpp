@@ -13,6 +13,7 @@
 #include "plugin/settings_paths.h"
 #include "ui/basket_dialog.h"
 #include "ui/bulk_upload_dialog.h"
+#include "ui/issue_details_dialog.h"
 #include "ui/issue_list_model.h"
 #include "ui/list_memory.h"
 #include "ui/market_depth_dialog.h"
@@ -101,6 +102,8 @@ void WatchViewWidget::destroyDialogs() {
   marketDepth_ = nullptr;
   delete scripProperties_;
   scripProperties_ = nullptr;
+  delete issueDetails_;
+  issueDetails_ = nullptr;
 }
 
 WatchViewWidget::~WatchViewWidget() {
@@ -228,8 +231,10 @@ bool WatchViewWidget::openMarketDepth(sOFSCol& issue) {
   marketDepth_->showIssue(issue);
   return true;
 }
-bool WatchViewWidget::openIssueDetails(sOFSCol*) {
-  return false;
+bool WatchViewWidget::openIssueDetails(sOFSCol* issue) {
+  if (!issueDetails_) issueDetails_ = new IssueDetailsDialog(block_, this);
+  issueDetails_->openOn(issue);
+  return true;
 }
 bool WatchViewWidget::openIssueUpload() {
   return false;

@@ -13,6 +13,7 @@ class COFSControlBlock;
 class IssueListModel;
 class BasketDialog;
 class BulkUploadDialog;
+class IssueDetailsDialog;
 class MarketDepthDialog;
 class OrderEntryDialog;
 class ScripPropertiesDialog;
@@ -71,6 +72,7 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   MarketDepthDialog* marketDepth_ = nullptr;
   BasketDialog* basket_ = nullptr;
   BulkUploadDialog* bulkUpload_ = nullptr;
+  IssueDetailsDialog* issueDetails_ = nullptr;
   OrderEntryDialog* orderEntry_ = nullptr;
   ScripPropertiesDialog* scripProperties_ = nullptr;
 };
