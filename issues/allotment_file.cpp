@@ -96,8 +96,11 @@ std::string readAllotmentLine(std::string_view text, AllotmentLayout layout, Row
 bool readAllotmentFile(const std::string& path, AllotmentLayout layout,
                        const AllotmentVisitor& visit) {
   std::unique_ptr<std::FILE, int (*)(std::FILE*)> in(std::fopen(path.c_str(), "rb"), &std::fclose);
-  if (!in) return false;
-  BidLineReader reader(in.get());
+  return in && readAllotmentFile(in.get(), layout, visit);
+}
+
+bool readAllotmentFile(std::FILE* file, AllotmentLayout layout, const AllotmentVisitor& visit) {
+  BidLineReader reader(file);
   std::string_view text;
   AllotmentLine line;
   while (reader.next(text)) {

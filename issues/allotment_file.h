@@ -3,6 +3,7 @@
 // here, so they refuse the same lines with the same texts and the same line numbers.
 #pragma once
 
+#include <cstdio>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -43,6 +44,8 @@ using AllotmentVisitor = std::function<void(AllotmentLine& line)>;
 // stay visited.
 bool readAllotmentFile(const std::string& path, AllotmentLayout layout,
                        const AllotmentVisitor& visit);
+// The same from a file already open for reading.
+bool readAllotmentFile(std::FILE* file, AllotmentLayout layout, const AllotmentVisitor& visit);
 
 struct AllotmentRefusal {
   int line = 0;
