@@ -100,26 +100,6 @@ TEST(AllotmentChecks, NseStepsInOrder) {
         {"bid price, bid qty", {{10, "0"}, {9, "x"}}, "Bid Price cannot be zero"}});
 }
 
-std::string fieldsOf(const sOFSAllotmentRow& r) {
-  return r.exchange + " " + r.symbol + " " + r.orderNo + " " + r.client + "/" + r.ucc + " " +
-         r.bidQuantity + "@" + r.bidPrice + " " + r.allottedQuantity + "@" + r.allottedPrice;
-}
-
-TEST(AllotmentReader, AnAcceptedLineHoldsItsColumnsAndItsPricesInPaise) {
-  sOFSAllotmentRow bse, nse;
-  // A carriage return and columns past the layout's belong to no column.
-  ASSERT_EQ(readAllotmentLine(lineOf(kBse, {{7, "405.25"}, {12, "more"}}, "\r\n"),
-                              AllotmentLayout::Bse, bse),
-            "");
-  EXPECT_EQ(fieldsOf(bse), "bse_ipo XYZ 51 /UCC1 100@40525 40@40500");
-  std::vector<std::string> asRead = kBse;
-  asRead[6] = "405.25";
-  EXPECT_EQ(bse.columns, asRead);
-  ASSERT_EQ(readAllotmentLine(lineOf(kNse, {}, ""), AllotmentLayout::Nse, nse), "");
-  EXPECT_EQ(fieldsOf(nse), "nse_ipo ABC 2001 C1/ 100@10500 40@10000");
-  EXPECT_EQ(nse.columns, kNse);
-}
-
 TEST(AllotmentFile, CountsEveryLineButTheHeaderAndNumbersThemAsAnEditorDoes) {
   const std::string bseHeader = "SYMBOL,NAME\n", nseHeader = "Member type,Member code\n";
   const struct {

@@ -52,7 +52,9 @@ TEST(AllotmentUpload, ReportsOrSendsEachLineInFileOrderThenSumsUp) {
                      << "n1,n2,ABC,2001,n5,n6,C1,n8,100,105.00,n11,40,100.00,n14,n15\n"
                      << "n1,n2,ABC,2002,n5,n6,C2,n8,100,105.00,n11,0,100.00,n14,n15\n"
                      << "n1,n2,ABC,2003,n5,n6,C3,n8,50,104.50,n11,50,100,n14,n15\n\n";
-  std::ofstream(bse) << "XYZ,b2,b3,UCC1,b5,100,405.25,5051,40,400,b11\n";
+  // A CR LF line end, a missing last column and columns past the layout's change nothing.
+  std::ofstream(bse)
+      << "XYZ,b2,b3,UCC1,b5,100,405.25,5051,40,400\r\nXYZ,b2,b3,U2,b5,1,1,52,1,1,b11,9\n";
   const struct {
     const char* exchange;
     std::string file;
@@ -75,7 +77,8 @@ TEST(AllotmentUpload, ReportsOrSendsEachLineInFileOrderThenSumsUp) {
        {kChooser,
         allotment("63001=bse_ipo 3=XYZ 49238=5051 54001=UCC1 12004=40 10306=40525 10308=40 "
                   "10307=40000"),
-        "msgbox Total Records : 1. Allotments Uploaded Successfully : 1."}},
+        allotment("63001=bse_ipo 3=XYZ 49238=52 54001=U2 12004=1 10306=100 10308=1 10307=100"),
+        "msgbox Total Records : 2. Allotments Uploaded Successfully : 2."}},
   };
   for (const auto& c : cases) {
     UploadPort port;
