@@ -17,3 +17,5 @@ void addBasketCommand(CLI::App& app, CheckRun& run);
 // ofs-check bids --format neat|now|nowmod|vt [--issues F] [--accounts F] [--orders F]
 //                [--tm-code CODE] [--write-accepted F] FILE
 void addBidsCommand(CLI::App& app, CheckRun& run);
+// ofs-check allotment --exchange nse_ipo|bse_ipo FILE
+void addAllotmentCommand(CLI::App& app, CheckRun& run);

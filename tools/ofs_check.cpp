@@ -22,6 +22,7 @@ int runOfsCheck(int argc, const char* const* argv, std::ostream& out, std::ostre
   CheckRun run;
   addBasketCommand(app, run);
   addBidsCommand(app, run);
+  addAllotmentCommand(app, run);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

@@ -8,6 +8,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "issues/allotment_upload.h"
 #include "issues/watch_columns.h"
 #include "plugin/control_block.h"
 #include "plugin/settings_paths.h"
@@ -242,8 +243,10 @@ bool WatchViewWidget::openIssueUpload() {
 bool WatchViewWidget::openIssueExport() {
   return false;
 }
-bool WatchViewWidget::openAllotmentUpload(const std::string&) {
-  return false;
+bool WatchViewWidget::openAllotmentUpload(const std::string& exchange) {
+  // No window of its own: the file chooser and every message come through the prompt.
+  COFSAllotmentUpload(static_cast<IssuesPort&>(block_)).run(exchange);
+  return true;
 }
 bool WatchViewWidget::deleteInOrderBook() {
   auto* frame = qobject_cast<COFSFrame*>(parentWidget());

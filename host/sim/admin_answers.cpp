@@ -23,7 +23,8 @@ void SimExchange::addIssue(const RequestFields& request, Answers& answers) {
 }
 
 // The open order that the allotment names, by exchange order number (49238) or else by
-// account and issue, is complete.
+// account and issue, is complete and carries what was allotted (10308 shares at 10307 paise)
+// from then on, in this broadcast and in every later book reply.
 void SimExchange::allot(const RequestFields& request, Answers& answers) {
   if (auto bad = firstOf({requireIpoExchange(request), requireFields(request, {3, 54001}),
                           requireCount(request, 12004)}))
@@ -40,6 +41,8 @@ void SimExchange::allot(const RequestFields& request, Answers& answers) {
   }
   answers.succeed();
   if (!allotted) return;
+  allotted->allottedQuantity = request.text(10308);
+  allotted->allottedPrice = request.text(10307);
   setStatus(*allotted, "complete");
   broadcast(*allotted, answers);
 }

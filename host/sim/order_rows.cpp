@@ -29,6 +29,8 @@ SimFields orderRow(const Order& order) {
   if (!order.isWalkin()) row.emplace_back(64030, "CNC");
   addIf(row, 54158, order.guiNumber);
   addIf(row, 49238, order.exchangeNumber);
+  addIf(row, 10308, order.allottedQuantity);
+  addIf(row, 10307, order.allottedPrice);
   row.emplace_back(10355, order.cfStatus);
   row.emplace_back(64655, order.status);
   addIf(row, 20008, order.reason);

@@ -91,6 +91,9 @@ struct Order {
   std::string exchangeNumber;  // 49238
   std::string status;
   std::string reason;  // 20008
+  // What the allotment gave: 10308 shares at 10307 paise; empty until allotted.
+  std::string allottedQuantity;
+  std::string allottedPrice;
   std::string cfStatus = "Active";
   int64_t updated = 0;
   std::vector<OrderEvent> history;

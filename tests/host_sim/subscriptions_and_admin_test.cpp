@@ -86,14 +86,21 @@ TEST(IssueAdministration, CancellingUnallottedOrdersClosesTheOpenOnesOfTheIssue)
              "known"}));
 }
 
-TEST(IssueAdministration, AllotmentCompletesTheOrderItNames) {
+TEST(IssueAdministration, AllotmentCompletesTheOrderItNamesWithWhatWasAllotted) {
   SimFixture f;
   f.subscribeListeners();
   const FieldList byNumber = fieldsOf(
-      "63001=bse_ipo 3=XYZ 49238=1000000505 54001=A2 12004=4 10306=40000 20001=fill 12003=B");
-  EXPECT_EQ(describe(f, f.ask("om_ofs_allotment", byNumber), {32766, 64001, 64655}),
+      "63001=bse_ipo 3=XYZ 49238=1000000505 54001=A2 12004=4 10306=40000 10308=4 "
+      "10307=39950 20001=fill 12003=B");
+  EXPECT_EQ(describe(f, f.ask("om_ofs_allotment", byNumber), {32766, 64001, 10308, 10307, 64655}),
             (Lines{"reply asker om_ofs_allotment 32766=",
-                   "live bse om_ofs_allotment 64001=505 64655=complete"}));
+                   "live bse om_ofs_allotment 64001=505 10308=4 10307=39950 64655=complete"}));
+  // The book asked for later shows the allotment too; the other orders carry none.
+  EXPECT_EQ(
+      describe(f, f.ask("om_order_report_ofs", fieldsOf("63059=C 63001=bse_ipo 31003=U1")),
+               {64001, 10308, 10307}),
+      (Lines{"reply asker om_order_report_ofs 64001=505 10308=4 10307=39950",
+             "reply asker om_order_report_ofs 64001=507", "reply asker om_order_report_ofs"}));
   // Again: the order is no longer open, so nothing more happens.
   EXPECT_EQ(describe(f, f.ask("om_ofs_allotment", byNumber), {32766}),
             (Lines{"reply asker om_ofs_allotment 32766="}));

@@ -88,4 +88,37 @@ TEST(OfsCheckTest, BidsChecksAgainstTheGivenIssuesAndAccountsAndWritesTheAccepte
   EXPECT_EQ(run({"bids", "--format", "xml", bids}, out, err), 2);
 }
 
+TEST(OfsCheckTest, AllotmentListsRefusedLinesByTheirNumberInTheChosenLayout) {
+  ScratchDir dir;
+  const std::string nse = dir.file("nse.csv"), none = dir.file("none");
+  std::ofstream(nse) << "Member type,Member code,Symbol\n"
+                     << "n1,n2,ABC,2001,n5,n6,C1,n8,100,105.00,n11,40,100.00,n14,n15\n"
+                     << "n1,n2,ABC,2002,n5,n6,,n8,100,105.00,n11,40,100.00,n14,n15\n";
+  const struct {
+    std::vector<std::string> args;
+    int status;
+    std::string out, err;  // err: its start
+  } cases[] = {
+      {{"allotment", "--exchange", "nse_ipo", nse},
+       1,
+       nse + ":3: Client cannot be blank\n2 lines, 1 accepted, 1 refused\n",
+       ""},
+      // Read as BSE, the header is a line and the columns are elsewhere.
+      {{"allotment", "--exchange", "bse_ipo", nse},
+       1,
+       nse + ":1: Order Number cannot be blank\n" + nse + ":2: Invalid Quantity\n" + nse +
+           ":3: Price cannot be blank\n3 lines, 0 accepted, 3 refused\n",
+       ""},
+      {{"allotment", "--exchange", "bse_ipo", none}, 2, "", none + ": File Open Error\n"},
+      {{"allotment", nse}, 2, "", "ofs-check: --exchange is required"},
+      {{"allotment", "--exchange", "nse_cm", nse}, 2, "", "ofs-check: --exchange: nse_cm"},
+  };
+  for (const auto& c : cases) {
+    std::string out, err;
+    EXPECT_EQ(run(c.args, out, err), c.status) << c.args.back();
+    EXPECT_EQ(out, c.out) << c.args.back();
+    EXPECT_EQ(err.substr(0, c.err.size()), c.err) << c.args.back();
+  }
+}
+
 }  // namespace

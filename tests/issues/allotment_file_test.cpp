@@ -1,0 +1,159 @@
+#include "issues/allotment_file.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+
+#include "tests/support/scratch_dir.h"
+
+namespace {
+
+// BSE: symbol 1, UCC 4, bid quantity 6, bid price 7, order number 8, allotted 9 and 10.
+const std::vector<std::string> kBse = {"XYZ", "b2", "b3", "UCC1",  "b5", "100",
+                                       "405", "51", "40", "405.0", "b11"};
+// NSE: symbol 3, order number 4, client 7, bid quantity 9, bid price 10, allotted 12 and 13.
+const std::vector<std::string> kNse = {"n1",  "n2",    "ABC", "2001", "n5",  "n6",  "C1", "n8",
+                                       "100", "105.0", "n11", "40",   "100", "n14", "n15"};
+constexpr char kEmpty[] = "Allotment Read Error: Line is Empty ";
+constexpr char kNotCsv[] = "Allotment Read Error: Invalid Format: Not a CSV File ";
+
+// The good line of a layout with some columns (numbered from 1) changed.
+std::string lineOf(std::vector<std::string> columns, const std::map<int, std::string>& changes,
+                   const char* end = "\n") {
+  for (const auto& [column, text] : changes) {
+    columns.resize(std::max(columns.size(), static_cast<size_t>(column)));
+    columns[static_cast<size_t>(column - 1)] = text;
+  }
+  std::string line;
+  for (const std::string& text : columns) (line += text) += ',';
+  line.pop_back();
+  return line + end;
+}
+
+struct StepCase {
+  const char* name;
+  std::map<int, std::string> changes;
+  const char* message;  // empty: accepted
+};
+
+void walk(AllotmentLayout layout, const std::vector<StepCase>& cases) {
+  for (const StepCase& c : cases) {
+    sOFSAllotmentRow row;
+    const std::string line = lineOf(layout == AllotmentLayout::Bse ? kBse : kNse, c.changes);
+    EXPECT_EQ(readAllotmentLine(line, layout, row), c.message) << c.name;
+  }
+}
+
+// Each row fails at one step with the steps before it passing; a row with two faults shows
+// which step comes first.
+TEST(AllotmentChecks, BseStepsInOrder) {
+  walk(AllotmentLayout::Bse,
+       {{"good", {}, ""},
+        {"symbol empty", {{1, ""}}, "Symbol cannot be blank"},
+        {"symbol a blank is not empty", {{1, " "}}, ""},
+        {"order number empty", {{8, ""}}, "Order Number cannot be blank"},
+        {"allotted qty empty", {{9, ""}}, "Allotment Qty cannot be blank"},
+        {"allotted qty a blank", {{9, " "}}, "Allotment Qty cannot be blank"},
+        {"allotted qty 0", {{9, "0"}}, "Allotment Qty cannot be zero"},
+        {"allotted qty 00 is not zero", {{9, "00"}}, ""},
+        {"allotted qty not digits", {{9, "-4"}}, "Invalid Allotment Quantity"},
+        {"allotted price a blank", {{10, " "}}, "Allotment Price cannot be blank"},
+        {"allotted price 0", {{10, "0"}}, "Allotment Price cannot be zero"},
+        {"allotted price 0.00 is not 0", {{10, "0.00"}}, ""},
+        {"ucc empty", {{4, ""}}, "UCC cannot be blank"},
+        {"bid price a blank", {{7, " "}}, "Price cannot be blank"},
+        {"bid price 0", {{7, "0"}}, "Price cannot be zero"},
+        {"bid qty empty", {{6, ""}}, "Quantity cannot be blank"},
+        {"bid qty 0", {{6, "0"}}, "Quantity cannot be zero"},
+        {"bid qty not digits", {{6, "1e3"}}, "Invalid Quantity"},
+        {"symbol, order", {{1, ""}, {8, ""}}, "Symbol cannot be blank"},
+        {"order, qty", {{8, ""}, {9, "0"}}, "Order Number cannot be blank"},
+        {"qty, price", {{9, "x"}, {10, ""}}, "Invalid Allotment Quantity"},
+        {"price, ucc", {{10, "0"}, {4, ""}}, "Allotment Price cannot be zero"},
+        {"ucc, bid price", {{4, ""}, {7, "0"}}, "UCC cannot be blank"},
+        {"bid price, bid qty", {{7, ""}, {6, "0"}}, "Price cannot be blank"}});
+}
+
+TEST(AllotmentChecks, NseStepsInOrder) {
+  walk(AllotmentLayout::Nse,
+       {{"good", {}, ""},
+        {"symbol empty", {{3, ""}}, "Symbol cannot be blank"},
+        {"order no empty", {{4, ""}}, "Order no cannot be blank"},
+        {"allotted qty a blank", {{12, " "}}, "Allotted Quantity cannot be blank"},
+        {"allotted qty 0", {{12, "0"}}, "Allotted Quantity cannot be zero"},
+        {"allotted qty not digits", {{12, "4.0"}}, "Invalid Allotted Quantity"},
+        {"allotted price empty", {{13, ""}}, "Allotted Price cannot be blank"},
+        {"allotted price 0", {{13, "0"}}, "Allotted Price cannot be zero"},
+        {"client empty", {{7, ""}}, "Client cannot be blank"},
+        {"bid price empty", {{10, ""}}, "Bid Price cannot be blank"},
+        {"bid price 0", {{10, "0"}}, "Bid Price cannot be zero"},
+        {"bid qty a blank", {{9, " "}}, "Bid Quantity cannot be blank"},
+        {"bid qty 0", {{9, "0"}}, "Bid Quantity cannot be zero"},
+        {"bid qty not digits", {{9, "10 "}}, "Invalid Bid Quantity"},
+        {"symbol, order", {{3, ""}, {4, ""}}, "Symbol cannot be blank"},
+        {"order, qty", {{4, ""}, {12, ""}}, "Order no cannot be blank"},
+        {"qty, price", {{12, "0"}, {13, "0"}}, "Allotted Quantity cannot be zero"},
+        {"price, client", {{13, " "}, {7, ""}}, "Allotted Price cannot be blank"},
+        {"client, bid price", {{7, ""}, {10, ""}}, "Client cannot be blank"},
+        {"bid price, bid qty", {{10, "0"}, {9, "x"}}, "Bid Price cannot be zero"}});
+}
+
+TEST(AllotmentFile, CountsEveryLineButTheHeaderAndNumbersThemAsAnEditorDoes) {
+  const std::string bseHeader = "SYMBOL,NAME\n", nseHeader = "Member type,Member code\n";
+  const struct {
+    const char* name;
+    AllotmentLayout layout;
+    std::string content;
+    int lines;
+    size_t accepted;
+    std::vector<std::pair<int, std::string>> refusals;
+  } cases[] = {
+      {"empty file", AllotmentLayout::Bse, "", 0, 0, {}},
+      {"header only", AllotmentLayout::Bse, bseHeader, 0, 0, {}},
+      {"the other layout's header is a line",
+       AllotmentLayout::Bse,
+       nseHeader,
+       1,
+       0,
+       {{1, "Order Number cannot be blank"}}},
+      {"every kind of line",
+       AllotmentLayout::Bse,
+       bseHeader + lineOf(kBse, {}) + lineOf(kBse, {{1, ""}}) + "\n" + std::string(1, '\0') +
+           lineOf(kBse, {}) + lineOf(kBse, {{11, std::string(1100, 'x')}}) + "no comma\n" +
+           lineOf(kBse, {{8, ""}}, ""),
+       8,
+       2,
+       // The long line's first 1,023 bytes are a line of their own; the rest, with no comma,
+       // is refused under the same number.
+       {{3, "Symbol cannot be blank"},
+        {4, kNotCsv},
+        {5, kEmpty},
+        {6, kNotCsv},
+        {7, kNotCsv},
+        {8, "Order Number cannot be blank"}}},
+      {"a repeated header is skipped too",
+       AllotmentLayout::Nse,
+       nseHeader + lineOf(kNse, {}) + nseHeader + "n1,n2,ABC,,n5\n",
+       2,
+       1,
+       {{4, "Order no cannot be blank"}}},
+  };
+  for (const auto& c : cases) {
+    ScratchDir dir;
+    std::ofstream(dir.file("a.csv"), std::ios::binary) << c.content;
+    const AllotmentLoad load = loadAllotmentFile(dir.file("a.csv"), c.layout);
+    std::vector<std::pair<int, std::string>> refusals;
+    for (const AllotmentRefusal& r : load.refusals) refusals.emplace_back(r.line, r.message);
+    EXPECT_TRUE(load.opened) << c.name;
+    EXPECT_EQ(load.lines, c.lines) << c.name;
+    EXPECT_EQ(load.rows.size(), c.accepted) << c.name;
+    EXPECT_EQ(refusals, c.refusals) << c.name;
+  }
+  ScratchDir dir;
+  EXPECT_FALSE(loadAllotmentFile(dir.path(), AllotmentLayout::Nse).opened);
+  EXPECT_FALSE(loadAllotmentFile(dir.file("missing.csv"), AllotmentLayout::Nse).opened);
+}
+
+}  // namespace
