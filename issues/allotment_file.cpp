@@ -68,8 +68,6 @@ const char* allotmentExchangeKey(AllotmentLayout layout) {
 }
 
 bool isAllotmentHeader(std::string_view text, AllotmentLayout layout) {
-  // Recognised wherever it stands, by what it holds: a file whose header was repeated (two
-  // downloads joined) reads like one with a single header.
   const char* marker = layout == AllotmentLayout::Bse ? "SYMBOL" : "Member type";
   return text.find(marker) != std::string_view::npos;
 }
@@ -104,7 +102,9 @@ bool readAllotmentFile(std::FILE* file, AllotmentLayout layout, const AllotmentV
   std::string_view text;
   AllotmentLine line;
   while (reader.next(text)) {
-    if (isAllotmentHeader(text, layout)) continue;
+    // Only the first line can be the header: a later line that happens to hold the marker is
+    // an allotment, checked and reported like any other, never skipped unseen.
+    if (reader.lineNumber() == 1 && isAllotmentHeader(text, layout)) continue;
     line.line = reader.lineNumber();
     line.message = readAllotmentLine(text, layout, line.row);
     visit(line);

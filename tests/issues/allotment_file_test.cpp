@@ -133,12 +133,12 @@ TEST(AllotmentFile, CountsEveryLineButTheHeaderAndNumbersThemAsAnEditorDoes) {
         {6, kNotCsv},
         {7, kNotCsv},
         {8, "Order Number cannot be blank"}}},
-      {"a repeated header is skipped too",
+      {"only the first line can be the header",
        AllotmentLayout::Nse,
        nseHeader + lineOf(kNse, {}) + nseHeader + "n1,n2,ABC,,n5\n",
-       2,
+       3,
        1,
-       {{4, "Order no cannot be blank"}}},
+       {{3, "Symbol cannot be blank"}, {4, "Order no cannot be blank"}}},
   };
   for (const auto& c : cases) {
     ScratchDir dir;
