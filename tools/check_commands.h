@@ -19,3 +19,5 @@ void addBasketCommand(CLI::App& app, CheckRun& run);
 void addBidsCommand(CLI::App& app, CheckRun& run);
 // ofs-check allotment --exchange nse_ipo|bse_ipo FILE
 void addAllotmentCommand(CLI::App& app, CheckRun& run);
+// ofs-check issues [--today DD/MM/YYYY] FILE
+void addIssuesCommand(CLI::App& app, CheckRun& run);

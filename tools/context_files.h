@@ -6,8 +6,9 @@
 
 #include "basket/bulk_bid_context.h"
 
-// The issue file layout the issue list is exported in: a header line, then one issue a line.
-// The file carries no issue number, so an issue's id is its symbol and series, "ABC-Retail".
+// The issue file layout the issue list is exported in, read as the issue upload reads it: only
+// the lines it accepts become issues. The file carries no issue number, so an issue's id is
+// its symbol name and series word, "ABC-Retail".
 bool readIssueFile(const std::string& path, BidLookups& lookups, std::string& error);
 // "account,participant code" a line; the code may be empty.
 bool readAccountsFile(const std::string& path, BidLookups& lookups, std::string& error);

@@ -23,6 +23,7 @@ int runOfsCheck(int argc, const char* const* argv, std::ostream& out, std::ostre
   addBasketCommand(app, run);
   addBidsCommand(app, run);
   addAllotmentCommand(app, run);
+  addIssuesCommand(app, run);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

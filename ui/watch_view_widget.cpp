@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "issues/allotment_upload.h"
+#include "issues/issue_file_screens.h"
 #include "issues/watch_columns.h"
 #include "plugin/control_block.h"
 #include "plugin/settings_paths.h"
@@ -238,10 +239,12 @@ bool WatchViewWidget::openIssueDetails(sOFSCol* issue) {
   return true;
 }
 bool WatchViewWidget::openIssueUpload() {
-  return false;
+  uploadIssueFile(block_);
+  return true;
 }
 bool WatchViewWidget::openIssueExport() {
-  return false;
+  exportIssueFile(block_);
+  return true;
 }
 bool WatchViewWidget::openAllotmentUpload(const std::string& exchange) {
   // No window of its own: the file chooser and every message come through the prompt.

@@ -1,13 +1,40 @@
 // Issue administration: adding or changing an issue, allotment, cancelling unallotted orders.
 #include "host/sim/request_checks.h"
+#include "host/sim/sim_dates.h"
 #include "host/sim/sim_exchange.h"
+#include "host/sim/sim_numbers.h"
 
 namespace sim {
 
+namespace {
+
+// An open or close date the issue lists can place: a day text, or days from today ("+3").
+MaybeRefusal requireDay(const RequestFields& request, uint32_t id, int64_t today) {
+  const std::string text = request.text(id);
+  if (text.empty()) return missingField(id);
+  if (!parseDayText(resolveDate(text, today))) return badField(id, text);
+  return std::nullopt;
+}
+
+// A tick above zero, in rupees with at most two decimals: every price check divides by it.
+MaybeRefusal requireTick(const RequestFields& request) {
+  const std::string text = request.text(issue_field::kTick);
+  const auto paise = parseFixed(text, 2);
+  if (!paise || *paise == 0) return badField(issue_field::kTick, text);
+  return std::nullopt;
+}
+
+}  // namespace
+
 // The issue becomes what the request says; one with the same exchange and symbol keeps its id,
-// a new one gets the next.
+// a new one gets the next. A request that would leave an issue the lists cannot place or the
+// bid checks cannot use is refused and changes nothing.
 void SimExchange::addIssue(const RequestFields& request, Answers& answers) {
-  if (auto bad = firstOf({requireIpoExchange(request), requireFields(request, {10100})}))
+  using namespace issue_field;
+  if (auto bad = firstOf(
+          {requireIpoExchange(request), requireFields(request, {kSymbol, kCode, kSeries, kFloor}),
+           requireDay(request, kOpen, today()), requireDay(request, kClose, today()),
+           requireCount(request, kMinQuantity), requireCount(request, kLot), requireTick(request)}))
     return answers.fail(*bad);
   Issue issue;
   for (const auto& [id, value] : request.all())
