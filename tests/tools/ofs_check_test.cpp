@@ -64,7 +64,7 @@ TEST(OfsCheckTest, BidsChecksAgainstTheGivenIssuesAndAccountsAndWritesTheAccepte
   const std::string bids = dir.file("neat.csv"), accepted = dir.file("ok.csv");
   std::ofstream(issues)
       << "Exchange,Symbol Name,Series,...header\n"
-      << "nse_ipo,ABC,IS,INE01,10,0.05,100.00,110.00,23/11/2026,23/11/2026,"
+      << "nse_ipo,ABC,NonRetail,INE01,10,0.05,100.00,110.00,23/11/2026,23/11/2026,"
          "23/11/2026,20,10,5000,,10000,15:30:00,,,N,U,N,ABC Ltd,ABC,120,105,Y,Y\n";
   std::ofstream(accounts) << "ACC1,PC1\n";
   const std::string good = "x01,01,ABC,IS,100,101.00,CLI,ACC1,PC1,02\n";
@@ -119,6 +119,32 @@ TEST(OfsCheckTest, AllotmentListsRefusedLinesByTheirNumberInTheChosenLayout) {
     EXPECT_EQ(out, c.out) << c.args.back();
     EXPECT_EQ(err.substr(0, c.err.size()), c.err) << c.args.back();
   }
+}
+
+TEST(OfsCheckTest, IssuesNumbersLinesAsAnEditorAndCountsRecordsAsTheUpload) {
+  ScratchDir dir;
+  const std::string file = dir.file("issues.csv");
+  const std::string good =
+      "nse_ipo,ABC,Retail,INE01,10,0.05,100.00,110.00,25/11/2026,25/11/2026,25/11/2026,20,10,"
+      "5000,200000,,15:30:00,,,N,U,Y,ABC Ltd,ABC,120,105,Y,Y\n";
+  std::ofstream(file) << "Exchange,...header\n" << good << "\n" << good << "no comma\n";
+  std::string out, err;
+  EXPECT_EQ(run({"issues", "--today", "25/11/2026", file}, out, err), 1);
+  EXPECT_EQ(out, file +
+                     ":5: Upload Issue Read Error: Invalid Format: Not a CSV File \n"
+                     "4 lines, 2 accepted, 1 refused\n");
+  EXPECT_EQ(run({"issues", "--today", "26/11/2026", file}, out, err), 1);
+  EXPECT_EQ(out, file + ":2: OFS Start Date cannot be Past Date\n" + file +
+                     ":4: OFS Start Date cannot be Past Date\n" + file +
+                     ":5: Upload Issue Read Error: Invalid Format: Not a CSV File \n"
+                     "4 lines, 0 accepted, 3 refused\n");
+  std::ofstream(file) << "Exchange,...header\n" << good;
+  EXPECT_EQ(run({"issues", "--today", "25/11/2026", file}, out, err), 0);
+  EXPECT_EQ(out, "1 lines, 1 accepted, 0 refused\n");
+  EXPECT_EQ(run({"issues", "--today", "2026-11-25", file}, out, err), 2);
+  EXPECT_EQ(err, "ofs-check: --today: not a date: 2026-11-25\n");
+  EXPECT_EQ(run({"issues", dir.file("none")}, out, err), 2);
+  EXPECT_EQ(err, dir.file("none") + ": File Open Error\n");
 }
 
 }  // namespace

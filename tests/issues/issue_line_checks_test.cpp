@@ -1,0 +1,250 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <sstream>
+
+#include "issues/issue_file.h"
+#include "issues/issue_file_text.h"
+
+namespace {
+
+enum Column {
+  Exchange = 1,
+  Symbol,
+  Series,
+  Isin,
+  Face,
+  Tick,
+  Floor,
+  Rms,
+  Start,
+  Close,
+  Final,
+  MinQty,
+  MultQty,
+  Size,
+  RetailLimit,
+  NonRetailLimit,
+  Time,
+  DiscVp,
+  Discount,
+  Notes,
+  Url,
+  CutOff,
+  Company,
+  Token,
+  Ceiling,
+  Indicative,
+  Display,
+  Placement
+};
+
+// Accepted on 24/11/2026. The ceiling is exactly 2.5 times the floor.
+const std::vector<std::string> kGood = {"nse_ipo",    "ABC",        "Retail",     "INE123456789",
+                                        "10",         "0.05",       "100.00",     "110.00",
+                                        "25/11/2026", "25/11/2026", "25/11/2026", "20",
+                                        "10",         "5000",       "200000",     "",
+                                        "15:30:00",   "P",          "5",          "Notes",
+                                        "http://x",   "Y",          "ABC Ltd",    "ABC",
+                                        "250.00",     "105.00",     "Y",          "Y"};
+
+using Changes = std::map<int, std::string>;
+
+std::string lineWith(const Changes& changes) {
+  std::vector<std::string> columns = kGood;
+  for (const auto& [column, text] : changes) columns[column - 1] = text;
+  std::string line;
+  for (const std::string& c : columns) line += c + ",";
+  line.back() = '\n';
+  return line;
+}
+
+// The message for the line, empty when accepted.
+std::string check(const Changes& changes) {
+  sOFSCol issue;
+  std::string message;
+  const std::optional<IssueDay> today = issueFileDate("24/11/2026");
+  return readIssueFileLine(lineWith(changes), today, issue, message) ? "" : message;
+}
+
+const std::string k26(26, 'S');
+const std::string k25(25, 'S');
+const Changes kBseEmployee = {{Exchange, "bse_ipo"}, {Series, "Employee"}};
+const Changes kNonRetail = {
+    {Series, "NonRetail"}, {CutOff, "N"}, {RetailLimit, ""}, {NonRetailLimit, "500000"}};
+
+Changes plus(Changes base, const Changes& more) {
+  for (const auto& [column, text] : more) base[column] = text;
+  return base;
+}
+
+// One row a step: each row fails at exactly the step it names, or is accepted ("").
+// Rows with two faults catch two steps swapped: the earlier step must win.
+TEST(IssueLineChecks, EachStepInItsOrder) {
+  const struct {
+    const char* name;
+    Changes changes;
+    std::string message;
+  } rows[] = {
+      {"good line", {}, ""},
+      {"exchange blank", {{Exchange, ""}}, "Exchange cannot be Blank"},
+      {"exchange in capitals", {{Exchange, "NSE_IPO"}}, "InValid Exchange"},
+      {"bad exchange before blank symbol", {{Exchange, "x"}, {Symbol, ""}}, "InValid Exchange"},
+      {"symbol blank", {{Symbol, ""}, {Series, ""}}, "Symbol cannot be Blank"},
+      {"symbol of 26", {{Symbol, k26}}, "Symbol length should not be more than 25 characters"},
+      {"symbol of 25", {{Symbol, k25}}, ""},
+      {"series blank", {{Series, ""}, {Isin, ""}}, "Series cannot be Blank"},
+      {"employee on nse", {{Series, "Employee"}}, "Invalid Series"},
+      {"unknown word on bse", {{Exchange, "bse_ipo"}, {Series, "RS"}}, "Invalid Series"},
+      {"employee on bse", kBseEmployee, ""},
+      {"isin blank", {{Isin, ""}, {Face, ""}}, "ISIN cannot be Blank"},
+      {"isin of 13",
+       {{Isin, "INE1234567890"}},
+       "ISIN length should not be more than 12 characters"},
+      {"face blank", {{Face, ""}, {Tick, ""}}, "FaceValue cannot be Blank"},
+      {"face not a price", {{Face, "1O"}}, "Invalid FaceValue"},
+      {"face zero", {{Face, "0"}}, "Invalid FaceValue"},
+      {"tick blank", {{Tick, ""}, {Floor, ""}}, "TickSize cannot be Blank"},
+      {"tick zero", {{Tick, "0.00"}}, "Invalid TickSize"},
+      {"tick of three decimals", {{Tick, "0.005"}}, "Invalid TickSize"},
+      {"floor blank", {{Floor, ""}, {Rms, ""}}, "Floor Price cannot be Blank"},
+      {"floor not a price", {{Floor, "abc"}}, "Invalid Floor Price"},
+      {"floor off the tick",
+       {{Floor, "100.03"}},
+       "Floor Price should be multiple of Tick Size which is 0.05 rupees for this security"},
+      {"tick reformatted in the message",
+       {{Tick, "1"}, {Floor, "100.50"}},
+       "Floor Price should be multiple of Tick Size which is 1.00 rupees for this security"},
+      {"rms blank", {{Rms, ""}, {Start, ""}}, "RMS Price cannot be Blank"},
+      {"rms not a price", {{Rms, "1O0"}}, "Invalid RMS Price"},
+      {"rms off the tick",
+       {{Rms, "110.02"}},
+       "RMS Price should be multiple of Tick Size which is 0.05 rupees for this security"},
+      {"floor above rms", {{Floor, "111.00"}}, "Floor price cannot be greater than RMS price"},
+      {"floor above rms in paise only", {{Floor, "110.75"}, {Rms, "110.25"}, {Indicative, ""}}, ""},
+      {"start blank", {{Start, ""}}, "OFS Start Date cannot be Blank"},
+      {"start no day", {{Start, "31/11/2026"}}, "Invalid OFS Start Date"},
+      {"start yesterday before dates differ",
+       {{Start, "23/11/2026"}},
+       "OFS Start Date cannot be Past Date"},
+      {"all today", {{Start, "24/11/2026"}, {Close, "24/11/2026"}, {Final, "24/11/2026"}}, ""},
+      {"close blank", {{Close, ""}}, "OFS Close Date cannot be Blank"},
+      {"close dotted", {{Close, "25.11.2026"}}, "Invalid OFS Close Date"},
+      {"final blank", {{Final, ""}}, "Final Modification Date cannot be Blank"},
+      {"final year first", {{Final, "2026-11-25"}}, "Invalid Final Modification Date"},
+      {"close a day later",
+       {{Close, "26/11/2026"}},
+       "OFS Start Date, OFS Close Date and Final Modification Date must be same"},
+      {"final a day later",
+       {{Final, "26/11/2026"}, {MinQty, ""}},
+       "OFS Start Date, OFS Close Date and Final Modification Date must be same"},
+      {"same day written three ways",
+       {{Start, "25-Nov-2026"}, {Close, "25Nov2026"}, {Final, "25-11-2026"}},
+       ""},
+      {"min blank", {{MinQty, ""}, {MultQty, ""}}, "Min Quantity cannot be Blank"},
+      {"min with a point", {{MinQty, "20.0"}}, "Invalid Min Quantity"},
+      {"min zero", {{MinQty, "0"}}, "Invalid Min Quantity"},
+      {"multiple blank", {{MultQty, ""}}, "Multiple Quantity cannot be Blank"},
+      {"multiple zero", {{MultQty, "0"}}, "Invalid Multiple Quantity"},
+      {"min below multiple",
+       {{MinQty, "5"}},
+       "Min Quantity should be greater than or equal to Multiple Quantity"},
+      {"min not a multiple",
+       {{MinQty, "25"}},
+       "Min Quantity should be a multiple of Multiple Quantity"},
+      {"size blank", {{Size, ""}, {RetailLimit, ""}}, "OFS Size cannot be Blank"},
+      {"size in exponent", {{Size, "5e3"}}, "Invalid OFS Size"},
+      {"retail limit blank", {{RetailLimit, ""}, {Time, ""}}, "Retail Limit cannot be Blank"},
+      {"retail limit zero", {{RetailLimit, "0"}}, "Invalid Retail Limit"},
+      {"retail with a non-retail limit",
+       {{NonRetailLimit, "500000"}},
+       "Non Retail Individual Limit Should be Blank"},
+      {"non-retail", kNonRetail, ""},
+      {"non-retail limit blank before retail given",
+       plus(kNonRetail, {{NonRetailLimit, ""}, {RetailLimit, "200000"}}),
+       "Non Retail Individual Limit cannot be Blank"},
+      {"non-retail limit not an amount", plus(kNonRetail, {{NonRetailLimit, "5.000"}}),
+       "Invalid Non Retail Individual Limit"},
+      {"non-retail with a retail limit", plus(kNonRetail, {{RetailLimit, "200000"}}),
+       "Retail Limit Should be Blank"},
+      {"time blank", {{Time, ""}, {DiscVp, "X"}}, "Order Closing Time cannot be Blank"},
+      {"time of no time", {{Time, "00:00:00"}}, "Invalid Order Closing Time"},
+      {"time past the day", {{Time, "24:00:00"}}, "Invalid Order Closing Time"},
+      {"time short", {{Time, "9:30"}}, ""},
+      {"disc vp unknown before a bad discount",
+       {{DiscVp, "X"}, {Discount, "abc"}},
+       "Invalid Disc VP. Input should be V or P"},
+      {"percentage of 100", {{Discount, "100"}}, ""},
+      {"percentage above 100", {{Discount, "100.01"}}, "Invalid OFS Discount"},
+      {"percentage zero", {{Discount, "0"}}, "Invalid OFS Discount"},
+      {"value discount above 100", {{DiscVp, "V"}, {Discount, "150"}}, ""},
+      {"bad discount without a kind", {{DiscVp, ""}, {Discount, "abc"}}, "Invalid OFS Discount"},
+      {"kind without a discount", {{Discount, ""}}, "OFS Discount Cannot be Blank"},
+      {"discount without a kind",
+       {{DiscVp, ""}, {Notes, ""}},
+       "Discount Type should be provided for Discount to be considered"},
+      {"no discount at all", {{DiscVp, ""}, {Discount, ""}}, ""},
+      {"notes blank", {{Notes, ""}, {Url, ""}}, "Issue Notes cannot be Blank"},
+      {"url blank", {{Url, ""}, {CutOff, ""}}, "Prospectus URL cannot be Blank"},
+      {"cut off blank", {{CutOff, ""}, {Company, ""}}, "Cut Off cannot be Blank"},
+      {"employee without cut off", plus(kBseEmployee, {{CutOff, "N"}}),
+       "Invalid Cut Off. Input Should be Y for Employee series"},
+      {"non-retail with cut off", plus(kNonRetail, {{CutOff, "Y"}}),
+       "Invalid Cut Off. Input Should be N for NonRetail series"},
+      {"retail cut off lower case",
+       {{CutOff, "y"}},
+       "Invalid Cut Off. Input Should be Y or N for Retail series"},
+      {"company blank", {{Company, ""}, {Token, k25}}, "Company Name cannot be Blank"},
+      {"token of 25",
+       {{Token, k25}, {Ceiling, "300"}},
+       "Underlying Token length should not be more than 24 characters"},
+      {"token of 24", {{Token, std::string(24, 'T')}}, ""},
+      {"no token", {{Token, ""}}, ""},
+      {"ceiling above 2.5 times before its decimals",
+       {{Ceiling, "250.051"}},
+       "Ceiling Price cannot be more than 2.5 times of the floor price"},
+      {"ceiling not a price", {{Ceiling, "2x0"}}, "Invalid Ceiling Price"},
+      {"ceiling off the tick",
+       {{Ceiling, "240.03"}},
+       "Ceiling Price should be multiple of Tick Size which is 0.05 rupees for this security"},
+      {"ceiling zero is no ceiling", {{Ceiling, "0.00"}, {Indicative, "300.00"}}, ""},
+      {"indicative above the ceiling",
+       {{Indicative, "250.05"}},
+       "Indicative Price Cannot be Greater than Ceiling Price"},
+      {"indicative below the floor",
+       {{Indicative, "99.95"}},
+       "Indicative Price Cannot be Less than Floor Price"},
+      {"indicative not a price", {{Indicative, "105.5x"}}, "Invalid Indicative Price"},
+      {"indicative off the tick",
+       {{Indicative, "105.01"}, {Display, ""}},
+       "Indicative Price should be multiple of Tick Size which is 0.05 rupees for this security"},
+      {"display blank", {{Display, ""}, {Placement, ""}}, "Symbol Display cannot be Blank"},
+      {"display lower case", {{Display, "y"}}, "Invalid Symbol Display. Input Should be Y or N"},
+      {"placement blank", {{Placement, ""}}, "Order Placement cannot be Blank"},
+      {"placement a word", {{Placement, "Yes"}}, "Invalid Order Placement. Input Should be Y or N"},
+      {"placement without display",
+       {{Display, "N"}},
+       "Order Placement Cannot be Y When Display Allowed is N"},
+      {"hidden and closed", {{Display, "N"}, {Placement, "N"}}, ""},
+  };
+  for (const auto& row : rows) EXPECT_EQ(check(row.changes), row.message) << row.name;
+}
+
+TEST(IssueLineChecks, DateAndTimeForms) {
+  const std::optional<IssueDay> day = issueFileDate("05/01/2027");
+  ASSERT_TRUE(day);
+  for (const char* same : {"5/1/2027", "05-01-2027", "5-Jan-2027", "05/Jan/2027", "5Jan2027"})
+    EXPECT_EQ(issueFileDate(same), day) << same;
+  for (const char* refused :
+       {"", "05/01-2027", "05/01/27", "05/01/20270", "005/01/2027", "05JAN2027", "0501/2027",
+        "29/02/2027", "05/13/2027", " 05/01/2027", "05/01/2027 "})
+    EXPECT_FALSE(issueFileDate(refused)) << refused;
+  EXPECT_EQ(issueDayText(*day), "05/01/2027");
+  EXPECT_EQ(issueFileTime("9:05"), 9 * 3600 + 5 * 60);
+  EXPECT_EQ(issueFileTime("23:59:59"), 86399);
+  for (const char* refused :
+       {"", "9", "9:5", "12:60", "12:00:60", "123:00", "12:00:00:00", "12.00"})
+    EXPECT_FALSE(issueFileTime(refused)) << refused;
+}
+
+}  // namespace
