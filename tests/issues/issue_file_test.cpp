@@ -100,41 +100,30 @@ TEST(IssueFileReader, AnAcceptedLineFillsTheIssueInTheFormsTheListUses) {
   EXPECT_EQ(c.category + " " + c.symbol, "RS ABC-RS");
 }
 
+// An issue as an issue list reply fills it: series in the exchange's code, prices as sent, both
+// limits. The file gets the series word, "%.2lf" prices and only the series' own limit.
 TEST(IssueFileWriter, WritesTheHeaderAndEachIssueInTheUploadsLayout) {
-  sOFSCol c;  // as an issue list reply fills it
-  c.exchange = "nse_ipo";
-  c.field3 = "ABC";
+  sOFSCol c;
+  std::string message;
+  ASSERT_TRUE(readIssueFileLine(goodLine(), std::nullopt, c, message));
   c.category = "IS";
-  c.field13041 = "INE1";
-  c.field13004 = "10";
-  c.tickSize = 0.05;
+  c.tickSize = 0.1;
   c.floorPrice = "100";
   c.field54079 = "110.5";
-  c.field49165 = c.field79 = c.field107 = "25/11/2026";
-  c.minQuantity = 20;
-  c.lotSize = 10;
-  c.issueSize = 5000;
-  c.field54009 = "200000";  // not the series' limit: left out
   c.hniLimit = "500000";
-  c.field67 = "15:30:00";
-  c.field61002 = "Notes";
-  c.field10046 = "http://x";
-  c.field63059 = "N";
-  c.field49033 = "ABC Ltd";
-  c.assetSymbol = "ABC";
+  c.field63023 = "";
   c.field54803 = "105";
-  c.field63017 = "Y";
-  c.biddingFlag = "Y";
   sOFSCol bse = c;
   bse.exchange = "bse_ipo";
   bse.category = "Retail";
-  const std::string nseLine =
-      "nse_ipo,ABC,NonRetail,INE1,10,0.05,100.00,110.50,25/11/2026,25/11/2026,25/11/2026,20,10,"
-      "5000,,500000,15:30:00,,,Notes,http://x,N,ABC Ltd,ABC,,105.00,Y,Y";
-  const std::string bseLine =
-      "bse_ipo,ABC,Retail,INE1,10,0.05,100.00,110.50,25/11/2026,25/11/2026,25/11/2026,20,10,"
-      "5000,200000,,15:30:00,,,Notes,http://x,N,ABC Ltd,ABC,,105.00,Y,Y";
-  EXPECT_EQ(issueFileText({&c, &bse}), kHeader + "\n" + nseLine + "\n" + bseLine + "\n");
+  const std::string tail =
+      ",INE123456789,10,0.10,100.00,110.50,25/11/2026,25/11/2026,25/11/2026,"
+      "20,10,5000,";
+  EXPECT_EQ(
+      issueFileText({&c, &bse}),
+      kHeader + "\nnse_ipo,ABC,NonRetail" + tail +
+          ",500000,15:30:00,P,5,Notes,http://x,Y,ABC Ltd,ABC,,105.00,Y,Y\nbse_ipo,ABC,Retail" +
+          tail + "200000,,15:30:00,P,5,Notes,http://x,Y,ABC Ltd,ABC,,105.00,Y,Y\n");
 }
 
 }  // namespace

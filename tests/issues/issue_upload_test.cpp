@@ -86,8 +86,8 @@ std::string issueLine(const std::string& symbol, const std::string& series = "Re
   const bool retail = series != "NonRetail";
   return "nse_ipo," + symbol + "," + series +
          ",INE123456789,10,0.05,100.00,110.00,25/11/2026,25/11/2026,25/11/2026,20,10,5000," +
-         (retail ? "200000,," : ",500000,") + "15:30:00,P,5,Notes,http://x," + (retail ? "Y" : "N") +
-         ",ABC Ltd,ABC,250.00,105.00,Y,Y\n";
+         (retail ? "200000,," : ",500000,") + "15:30:00,P,5,Notes,http://x," +
+         (retail ? "Y" : "N") + ",ABC Ltd,ABC,250.00,105.00,Y,Y\n";
 }
 
 class IssueUploadTest : public testing::Test {
