@@ -66,9 +66,11 @@ constexpr char kBidsHelp[] =
     "A bulk bid file, line by line, through the upload screen's readers and checks.\n"
     "Issues are matched by symbol and series for neat, now and nowmod lines, and by issue id\n"
     "for vt lines; the issue file carries no issue number, so a vt line's issue id is matched\n"
-    "against SYMBOL-SERIES (\"ABC-Retail\"). Without --issues the checks against the issue are\n"
-    "skipped; without --accounts those of the account and its participant code; without\n"
-    "--orders those of the order a nowmod line names. The checks after a skipped one still run.";
+    "against SYMBOL-SERIES (\"ABC-Retail\"). The issue file is read as the issue upload reads it\n"
+    "(its refused lines give no issue; a start date in the past is not refused there). Without\n"
+    "--issues the checks against the issue are skipped; without --accounts those of the account\n"
+    "and its participant code; without --orders those of the order a nowmod line names. The\n"
+    "checks after a skipped one still run.";
 
 }  // namespace
 
