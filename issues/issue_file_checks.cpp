@@ -1,6 +1,5 @@
 // The checks of one issue file line. The first failure decides the message, so the order of
 // the steps is behaviour.
-#include <algorithm>
 
 #include "domain/issue_price_rules.h"
 #include "domain/number_text.h"
