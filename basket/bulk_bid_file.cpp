@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "domain/bid_line_reader.h"
 #include "basket/bulk_bid_checks.h"
 #include "basket/bulk_bid_readers.h"
+#include "domain/bid_line_reader.h"
 
 BidFileLoad loadBidFile(const std::string& path, BidFileKind kind, const BidContext& context,
                         const BidLoadProgress& progress) {
