@@ -286,13 +286,6 @@ TEST_F(IssueDetailsScreen, RefusalFocusesItsFieldAndSendsNothing) {
   EXPECT_EQ(screen->fields()[T::MultipleQuantity].text, "3");
 }
 
-TEST_F(IssueDetailsScreen, WithoutTheRightNothingLeaves) {
-  typeValidIssue();
-  host.state.rights.erase("VT: Add OFS Issue");
-  screen->submit();
-  EXPECT_TRUE(sends().empty());
-}
-
 TEST_F(IssueDetailsScreen, ModifySendsTheIssueBackAsShown) {
   typeValidIssue();
   sOFSCol issue = screen->record();

@@ -39,6 +39,7 @@ class RecordingPrompt : public PromptPort {
     focused_.clear();
     questions_.clear();
     answers_.clear();
+    files_.clear();
   }
 
  private:
