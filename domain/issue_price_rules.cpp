@@ -34,6 +34,10 @@ bool isRupeeText(const std::string& text) {
 
 int64_t rupeeTextPaise(const std::string& text) {
   if (!isRupeeText(text)) return std::llround(leadingDouble(text) * 100.0);
+  return decimalTextPaise(text);
+}
+
+int64_t decimalTextPaise(const std::string& text) {
   int64_t paise = 0;
   size_t decimals = 0;
   bool afterPoint = false;

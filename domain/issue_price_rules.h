@@ -9,6 +9,10 @@
 // at most seven rupee digits and two paise digits.
 bool isRupeeText(const std::string& text);
 
+// Whole paise of digits with at most one point and two digits after it, read exactly; the
+// caller has checked the text's form.
+int64_t decimalTextPaise(const std::string& text);
+
 // Whole paise of a rupee text, exact for the texts isRupeeText accepts.
 int64_t rupeeTextPaise(const std::string& text);
 

@@ -1,8 +1,7 @@
 #include "issues/issue_details.h"
 
-#include <ctime>
-
 #include "domain/char_classes.h"
+#include "domain/date_text.h"
 #include "domain/issue_price_rules.h"
 #include "domain/number_text.h"
 #include "domain/series.h"
@@ -45,15 +44,6 @@ constexpr size_t kTokenLimit = 24;
 constexpr char kNoTime[] = "00:00:00";
 const std::vector<std::string> kYesNo{"Yes", "No"};
 
-std::string dateText(int64_t now) {
-  const std::time_t t = static_cast<std::time_t>(now);
-  std::tm local{};
-  localtime_r(&t, &local);
-  char buffer[16];
-  std::strftime(buffer, sizeof buffer, "%d/%m/%Y", &local);
-  return buffer;
-}
-
 bool isTyping(std::string_view text, std::string_view allowed) {
   return text.find_first_not_of(allowed) == std::string_view::npos;
 }
@@ -90,7 +80,7 @@ void COFSIssueDetails::clear() {
 void COFSIssueDetails::openToAdd() {
   clear();
   adding_ = true;
-  const std::string today = dateText(port_.now());
+  const std::string today = localTimeText(port_.now(), "%d/%m/%Y");
   for (T date : {T::StartDate, T::CloseDate, T::FinalModificationDate}) fields_[date].text = today;
   fields_[T::ClosingTime].text = kNoTime;
   fields_[L::SymbolDisplay].selected = "Yes";

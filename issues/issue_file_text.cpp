@@ -75,19 +75,7 @@ bool isPositiveAmountText(const std::string& text) {
 }
 
 int64_t amountTextPaise(const std::string& text) {
-  int64_t paise = 0;
-  size_t decimals = 0;
-  bool afterPoint = false;
-  for (char c : text) {
-    if (c == '.') {
-      afterPoint = true;
-      continue;
-    }
-    paise = paise * 10 + (c - '0');
-    if (afterPoint) ++decimals;
-  }
-  for (; decimals < kPaiseDigits; ++decimals) paise *= 10;
-  return paise;
+  return decimalTextPaise(text);
 }
 
 bool isQuantityText(const std::string& text) {

@@ -1,22 +1,12 @@
 #include "issues/watch_view.h"
 
-#include <ctime>
-
+#include "domain/date_text.h"
 #include "domain/issue_date.h"
 #include "messaging/issue_admin_requests.h"
 
 namespace {
 
 constexpr std::array<int, kControlCount> kControlKinds{2, 0, 2, 3, 1};
-
-std::string todayText(int64_t now) {
-  const std::time_t t = static_cast<std::time_t>(now);
-  std::tm local{};
-  localtime_r(&t, &local);
-  char buffer[50];
-  std::strftime(buffer, sizeof buffer, "%d/%m/%Y", &local);
-  return buffer;
-}
 
 }  // namespace
 
@@ -38,7 +28,7 @@ CWatchView::~CWatchView() {
 
 WatchTab CWatchView::tabFor(const sOFSCol& issue) const {
   // Dates are compared as 32-bit times, as the list always has.
-  const auto today = static_cast<int32_t>(parseIssueDate(todayText(port_.now())));
+  const auto today = static_cast<int32_t>(parseIssueDate(localTimeText(port_.now(), "%d/%m/%Y")));
   const auto open = static_cast<int32_t>(parseIssueDate(issue.field49165));
   const auto close = static_cast<int32_t>(parseIssueDate(issue.field79));
   if (open > today) return WatchTab::Forthcoming;
