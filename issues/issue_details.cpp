@@ -48,6 +48,29 @@ bool isTyping(std::string_view text, std::string_view allowed) {
   return text.find_first_not_of(allowed) == std::string_view::npos;
 }
 
+using TextMember = std::string sOFSCol::*;
+// Texts the record keeps as typed, and prices it keeps printed "%.2lf".
+constexpr std::pair<IssueText, TextMember> kPlainTexts[] = {
+    {T::SymbolName, &sOFSCol::field3},
+    {T::Isin, &sOFSCol::field13041},
+    {T::FaceValue, &sOFSCol::field13004},
+    {T::TickSize, &sOFSCol::tickSizeText},
+    {T::StartDate, &sOFSCol::field49165},
+    {T::CloseDate, &sOFSCol::field79},
+    {T::FinalModificationDate, &sOFSCol::field107},
+    {T::Discount, &sOFSCol::field12019},
+    {T::IssueNotes, &sOFSCol::field61002},
+    {T::ProspectusUrl, &sOFSCol::field10046},
+    {T::CompanyName, &sOFSCol::field49033},
+    {T::UnderlyingToken, &sOFSCol::assetSymbol},
+};
+constexpr std::pair<IssueText, TextMember> kPrices[] = {
+    {T::FloorPrice, &sOFSCol::floorPrice},
+    {T::RmsPrice, &sOFSCol::field54079},
+    {T::CeilingPrice, &sOFSCol::field63023},
+    {T::IndicativePrice, &sOFSCol::field54803},
+};
+
 std::string flag(bool on) {
   return on ? "Y" : "N";
 }
@@ -94,18 +117,10 @@ void COFSIssueDetails::openToModify(const sOFSCol& issue) {
   modified_ = issue;
   IssueDetailsFields& f = fields_;
   f[L::Exchange].selected = issue.exchange == "bse_ipo" ? "BSE" : "NSE";
-  f[T::SymbolName].text = issue.field3;
   switchSeries(seriesWord(issue.category), false);
-  f[T::Isin].text = issue.field13041;
-  f[T::FaceValue].text = issue.field13004;
-  f[T::TickSize].text = issue.tickSizeText;
-  f[T::FloorPrice].text = issue.floorPrice;
-  f[T::RmsPrice].text = issue.field54079;
-  f[T::CeilingPrice].text = issue.field63023;
-  f[T::IndicativePrice].text = issue.field54803;
-  f[T::StartDate].text = issue.field49165;
-  f[T::CloseDate].text = issue.field79;
-  f[T::FinalModificationDate].text = issue.field107.empty() ? issue.field79 : issue.field107;
+  for (const auto& [field, member] : kPlainTexts) f[field].text = issue.*member;
+  for (const auto& [field, member] : kPrices) f[field].text = issue.*member;
+  if (issue.field107.empty()) f[T::FinalModificationDate].text = issue.field79;
   f[T::ClosingTime].text = issue.field67.empty() ? kNoTime : issue.field67;
   f[T::MinQuantity].text = issue.minQuantityText;
   f[T::MultipleQuantity].text = issue.lotSizeText;
@@ -115,10 +130,6 @@ void COFSIssueDetails::openToModify(const sOFSCol& issue) {
   setDiscountOffered(!issue.field12020.empty());
   f[L::DiscVp].selected = issue.field12020;
   f[T::Discount].text = issue.field12019;
-  f[T::IssueNotes].text = issue.field61002;
-  f[T::ProspectusUrl].text = issue.field10046;
-  f[T::CompanyName].text = issue.field49033;
-  f[T::UnderlyingToken].text = issue.assetSymbol;
   f.cutOff = issue.field63059 == "Y";
   f[L::SymbolDisplay].selected = yesNo(issue.field63017);
   f[L::OrderPlacement].selected = yesNo(issue.biddingFlag);
@@ -210,20 +221,11 @@ sOFSCol COFSIssueDetails::record() const {
   const IssueDetailsFields& f = fields_;
   sOFSCol issue = modified_;
   issue.exchange = f[L::Exchange].selected == "NSE" ? "nse_ipo" : "bse_ipo";
-  issue.field3 = f[T::SymbolName].text;
+  for (const auto& [field, member] : kPlainTexts) issue.*member = f[field].text;
+  for (const auto& [field, member] : kPrices) issue.*member = rupees(f[field].text);
   issue.category = seriesOfExchange(issue.exchange, f[L::Series].selected);
   issue.symbol = issue.field3 + "-" + issue.category;
-  issue.field13041 = f[T::Isin].text;
-  issue.field13004 = f[T::FaceValue].text;
-  issue.tickSizeText = f[T::TickSize].text;
   issue.tickSize = leadingDouble(issue.tickSizeText);
-  issue.floorPrice = rupees(f[T::FloorPrice].text);
-  issue.field54079 = rupees(f[T::RmsPrice].text);
-  issue.field63023 = rupees(f[T::CeilingPrice].text);
-  issue.field54803 = rupees(f[T::IndicativePrice].text);
-  issue.field49165 = f[T::StartDate].text;
-  issue.field79 = f[T::CloseDate].text;
-  issue.field107 = f[T::FinalModificationDate].text;
   issue.field67 = f[T::ClosingTime].text == kNoTime ? "" : f[T::ClosingTime].text;
   issue.minQuantity = leadingInt64(f[T::MinQuantity].text);
   issue.minQuantityText = std::to_string(issue.minQuantity);
@@ -234,11 +236,6 @@ sOFSCol COFSIssueDetails::record() const {
   issue.field54009 = f[T::RetailLimit].enabled ? f[T::RetailLimit].text : "";
   issue.hniLimit = f[T::NonRetailLimit].enabled ? f[T::NonRetailLimit].text : "";
   issue.field12020 = f[L::DiscVp].selected;
-  issue.field12019 = f[T::Discount].text;
-  issue.field61002 = f[T::IssueNotes].text;
-  issue.field10046 = f[T::ProspectusUrl].text;
-  issue.field49033 = f[T::CompanyName].text;
-  issue.assetSymbol = f[T::UnderlyingToken].text;
   issue.field63059 = flag(f.cutOff);
   issue.field63017 = letter(f[L::SymbolDisplay].selected);
   issue.biddingFlag = letter(f[L::OrderPlacement].selected);
