@@ -48,8 +48,8 @@ void walk(AllotmentLayout layout, const std::vector<StepCase>& cases) {
   }
 }
 
-// Each row fails at one step with the steps before it passing; a row with two faults shows
-// which step comes first.
+// Each row fails at one step with the steps before it passing. A row with two faults pairs the
+// last step of one column with the first step of the next, so swapping them changes its message.
 TEST(AllotmentChecks, BseStepsInOrder) {
   walk(AllotmentLayout::Bse,
        {{"good", {}, ""},
@@ -71,11 +71,11 @@ TEST(AllotmentChecks, BseStepsInOrder) {
         {"bid qty 0", {{6, "0"}}, "Quantity cannot be zero"},
         {"bid qty not digits", {{6, "1e3"}}, "Invalid Quantity"},
         {"symbol, order", {{1, ""}, {8, ""}}, "Symbol cannot be blank"},
-        {"order, qty", {{8, ""}, {9, "0"}}, "Order Number cannot be blank"},
+        {"order, qty", {{8, ""}, {9, ""}}, "Order Number cannot be blank"},
         {"qty, price", {{9, "x"}, {10, ""}}, "Invalid Allotment Quantity"},
         {"price, ucc", {{10, "0"}, {4, ""}}, "Allotment Price cannot be zero"},
-        {"ucc, bid price", {{4, ""}, {7, "0"}}, "UCC cannot be blank"},
-        {"bid price, bid qty", {{7, ""}, {6, "0"}}, "Price cannot be blank"}});
+        {"ucc, bid price", {{4, ""}, {7, " "}}, "UCC cannot be blank"},
+        {"bid price, bid qty", {{7, "0"}, {6, ""}}, "Price cannot be zero"}});
 }
 
 TEST(AllotmentChecks, NseStepsInOrder) {
@@ -96,10 +96,10 @@ TEST(AllotmentChecks, NseStepsInOrder) {
         {"bid qty not digits", {{9, "10 "}}, "Invalid Bid Quantity"},
         {"symbol, order", {{3, ""}, {4, ""}}, "Symbol cannot be blank"},
         {"order, qty", {{4, ""}, {12, ""}}, "Order no cannot be blank"},
-        {"qty, price", {{12, "0"}, {13, "0"}}, "Allotted Quantity cannot be zero"},
-        {"price, client", {{13, " "}, {7, ""}}, "Allotted Price cannot be blank"},
+        {"qty, price", {{12, "4.0"}, {13, ""}}, "Invalid Allotted Quantity"},
+        {"price, client", {{13, "0"}, {7, ""}}, "Allotted Price cannot be zero"},
         {"client, bid price", {{7, ""}, {10, ""}}, "Client cannot be blank"},
-        {"bid price, bid qty", {{10, "0"}, {9, "x"}}, "Bid Price cannot be zero"}});
+        {"bid price, bid qty", {{10, "0"}, {9, " "}}, "Bid Price cannot be zero"}});
 }
 
 TEST(AllotmentFile, CountsEveryLineButTheHeaderAndNumbersThemAsAnEditorDoes) {
