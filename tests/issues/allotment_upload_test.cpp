@@ -34,40 +34,36 @@ TEST(AllotmentUpload, ReportsOrSendsEachLineInFileOrderThenSumsUp) {
   std::ofstream(bse)
       << "XYZ,b2,b3,UCC1,b5,100,405.25,5051,40,400\r\nXYZ,b2,b3,U2,b5,1,1,52,1,1,b11,9\n";
   std::ofstream(header) << "Member type,Member code,Symbol\n";
-  const struct {
+  struct Case {
     const char* name;
     bool right;
     const char* exchange;
     std::string file;  // empty: the chooser is cancelled
     Lines transcript;
-  } cases[] = {
-      {"nse",
-       true,
-       "nse_ipo",
-       nse,
-       {kOpen,
-        allotment("63001=nse_ipo 3=ABC 49238=2001 54001=C1 12004=40 10306=10500 10308=40 "
-                  "10307=10000"),
-        kError + "Allotted Quantity cannot be zero In Line Number 3",
-        allotment("63001=nse_ipo 3=ABC 49238=2003 54001=C3 12004=50 10306=10450 10308=50 "
-                  "10307=10000"),
-        kError + "Allotment Read Error: Invalid Format: Not a CSV File  In Line Number 5",
-        totals(4, 2)}},
+  };
+  const Case cases[] = {
+      Case("nse", true, "nse_ipo", nse,
+           {kOpen,
+            allotment("63001=nse_ipo 3=ABC 49238=2001 54001=C1 12004=40 10306=10500 10308=40 "
+                      "10307=10000"),
+            kError + "Allotted Quantity cannot be zero In Line Number 3",
+            allotment("63001=nse_ipo 3=ABC 49238=2003 54001=C3 12004=50 10306=10450 10308=50 "
+                      "10307=10000"),
+            kError + "Allotment Read Error: Invalid Format: Not a CSV File  In Line Number 5",
+            totals(4, 2)}),
       // The BSE layout's client is its UCC.
-      {"bse",
-       true,
-       "bse_ipo",
-       bse,
-       {kOpen,
-        allotment("63001=bse_ipo 3=XYZ 49238=5051 54001=UCC1 12004=40 10306=40525 10308=40 "
-                  "10307=40000"),
-        allotment("63001=bse_ipo 3=XYZ 49238=52 54001=U2 12004=1 10306=100 10308=1 10307=100"),
-        totals(2, 2)}},
-      {"no right: nothing is even asked", false, "nse_ipo", nse, {}},
-      {"chooser cancelled", true, "nse_ipo", "", {kOpen}},
-      {"missing file", true, "nse_ipo", dir.file("none.csv"), {kOpen, "msgbox File Open Error"}},
-      {"a folder", true, "nse_ipo", dir.path(), {kOpen, "msgbox File Open Error"}},
-      {"header only", true, "nse_ipo", header, {kOpen, totals(0, 0)}},
+      Case("bse", true, "bse_ipo", bse,
+           {kOpen,
+            allotment("63001=bse_ipo 3=XYZ 49238=5051 54001=UCC1 12004=40 10306=40525 10308=40 "
+                      "10307=40000"),
+            allotment("63001=bse_ipo 3=XYZ 49238=52 54001=U2 12004=1 10306=100 10308=1 10307=100"),
+            totals(2, 2)}),
+      Case("no right: nothing is even asked", false, "nse_ipo", nse, {}),
+      Case("chooser cancelled", true, "nse_ipo", "", {kOpen}),
+      Case("missing file", true, "nse_ipo", dir.file("none.csv"),
+           {kOpen, "msgbox File Open Error"}),
+      Case("a folder", true, "nse_ipo", dir.path(), {kOpen, "msgbox File Open Error"}),
+      Case("header only", true, "nse_ipo", header, {kOpen, totals(0, 0)}),
   };
   for (const auto& c : cases) {
     FakeIssuesPort port;

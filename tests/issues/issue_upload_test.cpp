@@ -37,29 +37,26 @@ TEST(IssueUpload, RefusalsThenAcceptedIssuesThenTotals) {
   ScratchDir dir;
   const std::string all = kHeader + issueLine("ABC") + issueLine("DEF", "Employee") + "\n" +
                           issueLine("GHI", "NonRetail") + "no comma\n" + issueLine("");
-  const struct {
+  struct Case {
     const char* name;
     bool right;
     std::string text;  // "-": no file; "?": the chooser is cancelled
     Lines said;
-  } cases[] = {
-      {"mixed",
-       true,
-       all,
-       {kOpen, kError + "Invalid Series In Line Number 2",
-        kError + "Upload Issue Read Error: Invalid Format: Not a CSV File  In Line Number 5",
-        kError + "Symbol cannot be Blank In Line Number 6",
-        "send 2 om_add_ofs_issue 32760=\"ABC-RS\"",
-        "send 2 om_add_ofs_issue 32760=\"GHI-IS\" 32760=\"Upload End\"", totals(6, 2)}},
-      {"no right", false, all, {}},
-      {"header only", true, kHeader, {kOpen, totals(0, 0)}},
-      {"empty file", true, "", {kOpen, totals(0, 0)}},
-      {"only refused",
-       true,
-       kHeader + "\n" + issueLine("A", "Employee"),
-       {kOpen, kError + "Invalid Series In Line Number 2", totals(2, 0)}},
-      {"missing file", true, "-", {kOpen, "msgbox File Open Error"}},
-      {"cancelled", true, "?", {kOpen}},
+  };
+  const Case cases[] = {
+      Case("mixed", true, all,
+           {kOpen, kError + "Invalid Series In Line Number 2",
+            kError + "Upload Issue Read Error: Invalid Format: Not a CSV File  In Line Number 5",
+            kError + "Symbol cannot be Blank In Line Number 6",
+            "send 2 om_add_ofs_issue 32760=\"ABC-RS\"",
+            "send 2 om_add_ofs_issue 32760=\"GHI-IS\" 32760=\"Upload End\"", totals(6, 2)}),
+      Case("no right", false, all, {}),
+      Case("header only", true, kHeader, {kOpen, totals(0, 0)}),
+      Case("empty file", true, "", {kOpen, totals(0, 0)}),
+      Case("only refused", true, kHeader + "\n" + issueLine("A", "Employee"),
+           {kOpen, kError + "Invalid Series In Line Number 2", totals(2, 0)}),
+      Case("missing file", true, "-", {kOpen, "msgbox File Open Error"}),
+      Case("cancelled", true, "?", {kOpen}),
   };
   for (const auto& c : cases) {
     FakeIssuesPort port;
@@ -77,17 +74,19 @@ TEST(IssueExport, SaysWhatHappened) {
   std::ofstream(in) << kHeader + issueLine("ABC");
   const IssueFileRead read = loadIssueFile(in, {});
   ASSERT_EQ(read.issues.size(), 1u);
-  const struct {
+  struct Case {
     const char* name;
     bool right, withIssues;
     std::string path;
     Lines said;
-  } cases[] = {
-      {"no right", false, true, dir.file("a.csv"), {}},
-      {"no issues", true, false, dir.file("a.csv"), {"msgbox No items in the list"}},
-      {"cancelled", true, true, "", {kSave}},
-      {"no such folder", true, true, dir.file("x/a.csv"), {kSave, "msgbox File Open Error"}},
-      {"written", true, true, dir.file("a.csv"), {kSave, "msgbox Issue File Created Successfully"}},
+  };
+  const Case cases[] = {
+      Case("no right", false, true, dir.file("a.csv"), {}),
+      Case("no issues", true, false, dir.file("a.csv"), {"msgbox No items in the list"}),
+      Case("cancelled", true, true, "", {kSave}),
+      Case("no such folder", true, true, dir.file("x/a.csv"), {kSave, "msgbox File Open Error"}),
+      Case("written", true, true, dir.file("a.csv"),
+           {kSave, "msgbox Issue File Created Successfully"}),
   };
   for (const auto& c : cases) {
     FakeIssuesPort port;
