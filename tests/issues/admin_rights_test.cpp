@@ -4,11 +4,13 @@
 // standing between the user and the exchange is the right.
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <fstream>
 #include <functional>
 
 #include "issues/allotment_upload.h"
 #include "issues/issue_details.h"
+#include "issues/issue_file.h"
 #include "issues/issue_file_screens.h"
 #include "plugin/control_block.h"
 #include "plugin/lifecycle.h"
@@ -19,26 +21,15 @@ namespace {
 
 constexpr char kRight[] = "VT: Add OFS Issue";
 
+const char kIssueLine[] =
+    "nse_ipo,ABC,Retail,INE000A01011,10,0.05,100.00,110.00,21/11/2026,21/11/2026,21/11/2026,1,1,"
+    "1000,200000,,15:30:00,,,Notes,https://example.in/abc.pdf,Y,ABC Ltd,ABC,,,Y,Y\n";
+
 sOFSCol listedIssue() {
   sOFSCol c;
+  std::string message;
+  EXPECT_TRUE(readIssueFileLine(kIssueLine, std::nullopt, c, message)) << message;
   c.issueId = "I1";
-  c.exchange = "nse_ipo";
-  c.field3 = "ABC";
-  c.category = "RS";
-  c.symbol = "ABC-RS";
-  c.field13041 = "INE000A01011";
-  c.field13004 = "10";
-  c.tickSizeText = "0.05";
-  c.floorPrice = "100.00";
-  c.field54079 = "110.00";
-  c.field49165 = c.field79 = c.field107 = "21/11/2026";
-  c.minQuantityText = c.lotSizeText = "1";
-  c.issueSizeText = "1000";
-  c.field54009 = "200000";
-  c.field61002 = "Notes";
-  c.field10046 = "https://example.in/abc.pdf";
-  c.field49033 = "ABC Ltd";
-  c.field63017 = c.biddingFlag = "Y";
   return c;
 }
 
@@ -63,10 +54,7 @@ class AdminRights : public testing::Test, public ScreenLauncher {
   ~AdminRights() override { exitPlugin(host); }
 
   void writeFiles() {
-    std::ofstream(dir.file("issues.csv"))
-        << "header\nnse_ipo,NEW,Retail,INE1,10,0.05,100.00,110.00,21/11/2026,21/11/2026,"
-           "21/11/2026,1,1,1000,200000,,15:30:00,,,Notes,https://example.in/n.pdf,Y,New Ltd,"
-           "NEW,,,Y,Y\n";
+    std::ofstream(dir.file("issues.csv")) << "header\n" << kIssueLine;
     std::ofstream(dir.file("nse.csv")) << "Member type\nTM,T1,ABC,9001,P,C,A1,P,10,100,N,10,100\n";
     std::ofstream(dir.file("bse.csv")) << "SYMBOL\nABC,x,x,U1,x,10,100,9001,10,100,x\n";
   }
@@ -150,24 +138,18 @@ const AdminPath kPaths[] = {
 
 TEST_F(AdminRights, NothingLeavesWithoutTheRightAndEachPathWorksWithIt) {
   for (const AdminPath& path : kPaths) {
-    host.state.rights.erase(kRight);
-    host.state.events.clear();
-    host.promptLog.clear();
-    path.run(*this);
-    EXPECT_EQ(adminRequests(), Lines{}) << path.name;
-    EXPECT_FALSE(std::ifstream(dir.file("export.csv")).good()) << path.name;
-
-    host.state.rights.insert(kRight);
-    host.state.events.clear();
-    host.promptLog.clear();
-    path.run(*this);
-    if (path.request) {
-      ASSERT_FALSE(adminRequests().empty())
-          << path.name << ": " << host.promptLog.messages().back();
-      EXPECT_EQ(adminRequests().front(), path.request) << path.name;
-    } else {
-      EXPECT_TRUE(std::ifstream(dir.file("export.csv")).good()) << path.name;
-      std::remove(dir.file("export.csv").c_str());
+    for (const bool right : {false, true}) {
+      host.state.rights.erase(kRight);
+      if (right) host.state.rights.insert(kRight);
+      host.state.events.clear();
+      host.promptLog.clear();
+      path.run(*this);
+      const std::string name = path.name + std::string(right ? "" : ", no right");
+      const Lines sent = adminRequests();
+      EXPECT_EQ(sent.empty() ? "" : sent.front(), right && path.request ? path.request : "")
+          << name << (host.promptLog.messages().empty() ? "" : host.promptLog.messages().back());
+      const bool exported = std::remove(dir.file("export.csv").c_str()) == 0;
+      EXPECT_EQ(exported, right && !path.request) << name;
     }
   }
 }

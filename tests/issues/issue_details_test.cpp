@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <sstream>
 
 #include "issues/issue_details.h"
 #include "plugin/control_block.h"
@@ -12,189 +13,110 @@ namespace {
 using T = IssueText;
 using L = IssueList;
 
+// In the order of IssueText; the non-retail limit and the discount stay empty.
+const char kValid[] =
+    "ABC,INE000A01011,10,0.05,100.00,110.00,120.00,105,21/11/2026,21/11/2026,21/11/2026,15:30:00,"
+    "10,5,1000000,200000,,,Notes,https://example.in/abc.pdf,ABC Ltd,ABC";
+
 IssueDetailsFields validIssue() {
   IssueDetailsFields f;
   f[L::Exchange].selected = "NSE";
   f[L::Series].selected = "Retail";
-  const std::pair<T, const char*> texts[] = {{T::SymbolName, "ABC"},
-                                             {T::Isin, "INE000A01011"},
-                                             {T::FaceValue, "10"},
-                                             {T::TickSize, "0.05"},
-                                             {T::FloorPrice, "100.00"},
-                                             {T::RmsPrice, "110.00"},
-                                             {T::CeilingPrice, "120.00"},
-                                             {T::IndicativePrice, "105"},
-                                             {T::StartDate, "21/11/2026"},
-                                             {T::CloseDate, "21/11/2026"},
-                                             {T::FinalModificationDate, "21/11/2026"},
-                                             {T::ClosingTime, "15:30:00"},
-                                             {T::MinQuantity, "10"},
-                                             {T::MultipleQuantity, "5"},
-                                             {T::OfsSize, "1000000"},
-                                             {T::RetailLimit, "200000"},
-                                             {T::IssueNotes, "Notes"},
-                                             {T::ProspectusUrl, "https://example.in/abc.pdf"},
-                                             {T::CompanyName, "ABC Ltd"},
-                                             {T::UnderlyingToken, "ABC"}};
-  for (const auto& [field, text] : texts) f[field].text = text;
+  std::istringstream texts(kValid);
+  for (EntryText& t : f.texts) std::getline(texts, t.text, ',');
   f[T::NonRetailLimit].enabled = false;
   return f;
 }
 
-struct CheckCase {
-  const char* name;
-  std::function<void(IssueDetailsFields&)> change;
-  const char* message;
+// One change to the valid issue's fields: a text, a list's choice, or anything else.
+struct Edit {
+  Edit(IssueText t, const char* text) : apply([=](auto& f) { f[t].text = text; }) {}
+  Edit(IssueList l, const char* word) : apply([=](auto& f) { f[l].selected = word; }) {}
+  Edit(void (*other)(IssueDetailsFields&)) : apply(other) {}
+  std::function<void(IssueDetailsFields&)> apply;
 };
-
-// Each row breaks the valid issue at one step (or at two, the earlier of which must win).
-const CheckCase kChecks[] = {
-    {"no exchange", [](auto& f) { f[L::Exchange].selected = ""; }, "Please select the exchange"},
-    {"no symbol, no series",
-     [](auto& f) {
-       f[T::SymbolName].text = "";
-       f[L::Series].selected = "";
-     },
-     "Please enter the Symbol Name"},
-    {"no series", [](auto& f) { f[L::Series].selected = ""; }, "Please Select a Series"},
-    {"no face value, no ISIN",
-     [](auto& f) {
-       f[T::FaceValue].text = "";
-       f[T::Isin].text = "";
-     },
-     "Please enter the Face Value"},
-    {"no ISIN", [](auto& f) { f[T::Isin].text = ""; }, "Please enter the ISIN"},
-    {"no tick", [](auto& f) { f[T::TickSize].text = ""; }, "Please enter valid Tick Size"},
-    {"zero tick", [](auto& f) { f[T::TickSize].text = "0.00"; }, "Please enter valid Tick Size"},
-    {"no floor", [](auto& f) { f[T::FloorPrice].text = ""; }, "Please enter the Floor Price"},
-    {"floor off the tick, RMS empty",
-     [](auto& f) {
-       f[T::FloorPrice].text = "100.03";
-       f[T::RmsPrice].text = "";
-     },
-     "Floor Price should be multiple of Tick Size which is 0.05 rupees for this security"},
-    {"tick shown with its own decimals",
-     [](auto& f) {
-       f[T::TickSize].text = "5";
-       f[T::FloorPrice].text = "102";
-     },
-     "Floor Price should be multiple of Tick Size which is 5 rupees for this security"},
-    {"no RMS", [](auto& f) { f[T::RmsPrice].text = ""; }, "Please enter the RMS Price"},
-    {"RMS off the tick", [](auto& f) { f[T::RmsPrice].text = "110.01"; },
-     "RMS Price should be multiple of Tick Size which is 0.05 rupees for this security"},
-    {"floor above RMS in whole rupees", [](auto& f) { f[T::FloorPrice].text = "111.00"; },
-     "Floor price cannot be greater than RMS price"},
-    {"close a day later than start", [](auto& f) { f[T::CloseDate].text = "22/11/2026"; },
-     "OFS Start Date, OFS Close Date and Final Modification Date must be same"},
-    {"final modification another day",
-     [](auto& f) { f[T::FinalModificationDate].text = "20/11/2026"; },
-     "OFS Start Date, OFS Close Date and Final Modification Date must be same"},
-    {"no min quantity, no multiple",
-     [](auto& f) {
-       f[T::MinQuantity].text = "";
-       f[T::MultipleQuantity].text = "0";
-     },
-     "Please enter valid Min Quantity"},
-    {"zero multiple", [](auto& f) { f[T::MultipleQuantity].text = "0"; },
-     "Please enter valid Multiple Qty"},
-    {"min below multiple", [](auto& f) { f[T::MinQuantity].text = "2"; },
-     "Min Quantity should be greater than or equal to Multiple Quantity"},
-    {"min not a multiple",
-     [](auto& f) {
-       f[T::MinQuantity].text = "10";
-       f[T::MultipleQuantity].text = "4";
-     },
-     "Min Quantity should be a multiple of Multiple Quantity"},
-    {"no OFS size", [](auto& f) { f[T::OfsSize].text = ""; }, "Please enter valid OFS Size"},
-    {"zero retail limit", [](auto& f) { f[T::RetailLimit].text = "0"; },
-     "Please enter valid Retail Limit"},
-    {"non-retail limit enabled and empty",
-     [](auto& f) {
-       f[T::RetailLimit].enabled = false;
-       f[T::RetailLimit].text = "";
-       f[T::NonRetailLimit].enabled = true;
-     },
-     "Please enter valid Non Inst Limit"},
-    {"discount offered without its kind", [](auto& f) { f.discountOffered = true; },
-     "Please select the Disc VP"},
-    {"kind without discount, no notes",
-     [](auto& f) {
-       f[L::DiscVp].selected = "V";
-       f[T::IssueNotes].text = "";
-     },
-     "Please enter OFS Discount"},
-    {"percentage above 100",
-     [](auto& f) {
-       f[L::DiscVp].selected = "P";
-       f[T::Discount].text = "100.01";
-     },
-     "Please enter valid OFS Discount"},
-    {"percentage zero",
-     [](auto& f) {
-       f[L::DiscVp].selected = "P";
-       f[T::Discount].text = "0";
-     },
-     "Please enter valid OFS Discount"},
-    {"no notes, bad URL",
-     [](auto& f) {
-       f[T::IssueNotes].text = "";
-       f[T::ProspectusUrl].text = "x";
-     },
-     "Please enter Issue Notes"},
-    {"URL without scheme", [](auto& f) { f[T::ProspectusUrl].text = "example.in/a.pdf"; },
-     "Please enter valid Prospectus URL"},
-    {"URL without a dotted host", [](auto& f) { f[T::ProspectusUrl].text = "http://local/a"; },
-     "Please enter valid Prospectus URL"},
-    {"no company, ceiling off the tick",
-     [](auto& f) {
-       f[T::CompanyName].text = "";
-       f[T::CeilingPrice].text = "120.02";
-     },
-     "Please enter the Company Name"},
-    {"ceiling off the tick", [](auto& f) { f[T::CeilingPrice].text = "120.02"; },
-     "Ceiling Price should be multiple of Tick Size which is 0.05 rupees for this security"},
-    {"indicative off the tick", [](auto& f) { f[T::IndicativePrice].text = "105.01"; },
-     "Indicative Price should be multiple of Tick Size which is 0.05 rupees for this security"},
-    {"indicative above ceiling", [](auto& f) { f[T::IndicativePrice].text = "120.05"; },
-     "Indicative Price Cannot be Greater than Ceiling Price"},
-    {"indicative below floor", [](auto& f) { f[T::IndicativePrice].text = "99.95"; },
-     "Indicative Price Cannot be Less than Floor Price"},
-};
-
-TEST(IssueDetailsChecks, FirstFailingStepDecides) {
-  EXPECT_FALSE(checkIssueDetails(validIssue())) << checkIssueDetails(validIssue()).message;
-  for (const CheckCase& c : kChecks) {
-    IssueDetailsFields f = validIssue();
-    c.change(f);
-    EXPECT_EQ(checkIssueDetails(f).message, c.message) << c.name;
-  }
+void discountOffered(IssueDetailsFields& f) {
+  f.discountOffered = true;
+}
+void nonRetailLimitOnly(IssueDetailsFields& f) {
+  f[T::RetailLimit] = {"", false};
+  f[T::NonRetailLimit].enabled = true;
 }
 
-TEST(IssueDetailsChecks, Accepts) {
-  const std::pair<const char*, std::function<void(IssueDetailsFields&)>> accepted[] = {
-      {"floor 100.75 against RMS 100.25",
-       [](auto& f) {
-         f[T::FloorPrice].text = "100.75";
-         f[T::RmsPrice].text = "100.25";
-         f[T::IndicativePrice].text = "";
-       }},
-      {"percentage of exactly 100",
-       [](auto& f) {
-         f.discountOffered = true;
-         f[L::DiscVp].selected = "P";
-         f[T::Discount].text = "100";
-       }},
-      {"no ceiling and no indicative",
-       [](auto& f) {
-         f[T::CeilingPrice].text = "";
-         f[T::IndicativePrice].text = "";
-       }},
-      {"an indicative price without a ceiling", [](auto& f) { f[T::CeilingPrice].text = ""; }},
-      {"a disabled limit left empty", [](auto& f) { f[T::NonRetailLimit].text = ""; }}};
-  for (const auto& [name, change] : accepted) {
+std::string offTick(const std::string& price, const char* tick = "0.05") {
+  return price + " should be multiple of Tick Size which is " + tick + " rupees for this security";
+}
+const char kDatesDiffer[] =
+    "OFS Start Date, OFS Close Date and Final Modification Date must be same";
+
+// Each row breaks the valid issue at one step (or at two, the earlier of which must win), or
+// is accepted ("").
+TEST(IssueDetailsChecks, FirstFailingStepDecides) {
+  using enum IssueText;
+  using enum IssueList;
+  struct Row {
+    const char* name;
+    std::vector<Edit> edits;
+    std::string message;
+  };
+  const Row rows[] = {
+      Row("valid", {}, ""),
+      Row("no exchange", {{Exchange, ""}}, "Please select the exchange"),
+      Row("no symbol, no series", {{SymbolName, ""}, {Series, ""}}, "Please enter the Symbol Name"),
+      Row("no series", {{Series, ""}}, "Please Select a Series"),
+      Row("no face, no ISIN", {{FaceValue, ""}, {Isin, ""}}, "Please enter the Face Value"),
+      Row("no ISIN", {{Isin, ""}}, "Please enter the ISIN"),
+      Row("no tick", {{TickSize, ""}}, "Please enter valid Tick Size"),
+      Row("zero tick", {{TickSize, "0.00"}}, "Please enter valid Tick Size"),
+      Row("no floor", {{FloorPrice, ""}}, "Please enter the Floor Price"),
+      Row("floor off, no RMS", {{FloorPrice, "100.03"}, {RmsPrice, ""}}, offTick("Floor Price")),
+      Row("tick as typed", {{TickSize, "5"}, {FloorPrice, "102"}}, offTick("Floor Price", "5")),
+      Row("no RMS", {{RmsPrice, ""}}, "Please enter the RMS Price"),
+      Row("RMS off the tick", {{RmsPrice, "110.01"}}, offTick("RMS Price")),
+      Row("floor above RMS", {{FloorPrice, "111.00"}},
+          "Floor price cannot be greater than RMS price"),
+      Row("floor > RMS in paise",
+          {{FloorPrice, "100.75"}, {RmsPrice, "100.25"}, {IndicativePrice, ""}}, ""),
+      Row("close a day later", {{CloseDate, "22/11/2026"}}, kDatesDiffer),
+      Row("final another day", {{FinalModificationDate, "20/11/2026"}}, kDatesDiffer),
+      Row("no min or multiple", {{MinQuantity, ""}, {MultipleQuantity, "0"}},
+          "Please enter valid Min Quantity"),
+      Row("zero multiple", {{MultipleQuantity, "0"}}, "Please enter valid Multiple Qty"),
+      Row("min below multiple", {{MinQuantity, "2"}},
+          "Min Quantity should be greater than or equal to Multiple Quantity"),
+      Row("min not a multiple", {{MinQuantity, "10"}, {MultipleQuantity, "4"}},
+          "Min Quantity should be a multiple of Multiple Quantity"),
+      Row("no OFS size", {{OfsSize, ""}}, "Please enter valid OFS Size"),
+      Row("zero retail limit", {{RetailLimit, "0"}}, "Please enter valid Retail Limit"),
+      Row("non-retail limit empty", {nonRetailLimitOnly}, "Please enter valid Non Inst Limit"),
+      Row("disabled limit empty", {{NonRetailLimit, ""}}, ""),
+      Row("discount without its kind", {discountOffered}, "Please select the Disc VP"),
+      Row("kind without discount, no notes", {{DiscVp, "V"}, {IssueNotes, ""}},
+          "Please enter OFS Discount"),
+      Row("percentage above 100", {{DiscVp, "P"}, {Discount, "100.01"}},
+          "Please enter valid OFS Discount"),
+      Row("percentage zero", {{DiscVp, "P"}, {Discount, "0"}}, "Please enter valid OFS Discount"),
+      Row("percentage 100", {discountOffered, {DiscVp, "P"}, {Discount, "100"}}, ""),
+      Row("no notes, bad URL", {{IssueNotes, ""}, {ProspectusUrl, "x"}},
+          "Please enter Issue Notes"),
+      Row("URL without scheme", {{ProspectusUrl, "example.in/a.pdf"}},
+          "Please enter valid Prospectus URL"),
+      Row("URL without a dotted host", {{ProspectusUrl, "http://local/a"}},
+          "Please enter valid Prospectus URL"),
+      Row("no company, ceiling off", {{CompanyName, ""}, {CeilingPrice, "120.02"}},
+          "Please enter the Company Name"),
+      Row("ceiling off the tick", {{CeilingPrice, "120.02"}}, offTick("Ceiling Price")),
+      Row("indicative off the tick", {{IndicativePrice, "105.01"}}, offTick("Indicative Price")),
+      Row("indicative above ceiling", {{IndicativePrice, "120.05"}},
+          "Indicative Price Cannot be Greater than Ceiling Price"),
+      Row("indicative without ceiling", {{CeilingPrice, ""}}, ""),
+      Row("indicative below floor", {{IndicativePrice, "99.95"}},
+          "Indicative Price Cannot be Less than Floor Price"),
+  };
+  for (const auto& row : rows) {
     IssueDetailsFields f = validIssue();
-    change(f);
-    EXPECT_EQ(checkIssueDetails(f).message, "") << name;
+    for (const Edit& edit : row.edits) edit.apply(f);
+    EXPECT_EQ(checkIssueDetails(f).message, row.message) << row.name;
   }
 }
 

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "messaging/issue_admin_requests.h"
@@ -40,10 +41,9 @@ TEST(AddIssueRequest, TagJoinsSymbolNameAndSeries) {
   sOFSCol issue = sparseIssue();
   issue.category = "Retail";
   requestAddIssue(channel.layer, issue, 1, 0);
-  ASSERT_EQ(channel.transcript.size(), 1u);
-  const std::string& line = channel.transcript[0];
-  EXPECT_NE(line.find(" 10610=\"Retail\" "), std::string::npos) << line;
-  EXPECT_TRUE(line.ends_with(" 32760=\"XYZ-Retail\"")) << line;
+  EXPECT_THAT(channel.transcript,
+              testing::ElementsAre(testing::AllOf(testing::HasSubstr(" 10610=\"Retail\" "),
+                                                  testing::EndsWith(" 32760=\"XYZ-Retail\""))));
 }
 
 TEST(AllotmentRequest, ClientFieldFollowsTheExchange) {
@@ -58,12 +58,11 @@ TEST(AllotmentRequest, ClientFieldFollowsTheExchange) {
   for (const auto& [exchange, client] : {std::pair{"bse_ipo", "U77"}, {"nse_ipo", "A1"}}) {
     TestChannel channel;
     EXPECT_EQ(requestAllotment(channel.layer, row, exchange), 1);
-    EXPECT_EQ(
-        channel.transcript,
-        (Lines{wireLine("send 2 om_ofs_allotment",
-                        std::string("63001=") + exchange + " 3=ABC 49238=9001 54001=" + client +
-                            " 12004=40 10306=10500 10308=40 10307=10400 20001=fill "
-                            "12003=B")}));
+    EXPECT_EQ(channel.transcript,
+              (Lines{wireLine(
+                  "send 2 om_ofs_allotment",
+                  std::string("63001=") + exchange + " 3=ABC 49238=9001 54001=" + client +
+                      " 12004=40 10306=10500 10308=40 10307=10400 " + "20001=fill 12003=B")}));
   }
 }
 
