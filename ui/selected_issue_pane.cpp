@@ -73,6 +73,9 @@ void SelectedIssuePane::refresh() {
     label->setBuddy(value);
     factsGrid_->addWidget(label, at / kFactPairsPerRow, at % kFactPairsPerRow * 2);
     factsGrid_->addWidget(value, at / kFactPairsPerRow, at % kFactPairsPerRow * 2 + 1);
+    // Added to a pane already on screen, a label would wait for the event loop to appear.
+    label->show();
+    value->show();
     facts_.emplace_back(label, value);
   }
   for (size_t i = 0; i < facts_.size(); ++i) {

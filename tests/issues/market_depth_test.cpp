@@ -29,6 +29,8 @@ class MarketDepthWindow : public testing::Test {
 };
 
 TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
+  issue.floorPrice = "120";
+  issue.field54803 = "130.25";
   CMarketDepth depth(*controlBlock());
   depth.open(issue);
   EXPECT_EQ(host.state.events, (Lines{"subscribe 5 63001=\"nse_ipo\" 10100=\"ABC-RS\""}));
@@ -53,6 +55,10 @@ TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
   EXPECT_EQ(depth.levels()[1].price, "0.00");
   EXPECT_EQ(depth.totalBidQuantity(), "90");
   EXPECT_EQ(depth.lastUpdate(), "10:15:02");
+  const DemandCurve demand = depth.demand();
+  EXPECT_EQ(demand.points, (std::vector<DemandPoint>{{12550, 40}}));
+  EXPECT_EQ(std::make_pair(demand.floorPaise, demand.indicativePaise),
+            std::make_pair(std::optional<int64_t>(12000), std::optional<int64_t>(13025)));
   // The update handed the instrument to the host again: no second subscription.
   EXPECT_EQ(host.state.events.size(), 1u);
 
