@@ -41,6 +41,12 @@ class IssuesPort {
   virtual std::vector<const sOFSCol*> knownIssues() const = 0;
   // Subscribes the price feed of an instrument once; later calls do nothing.
   virtual void ensurePriceFeed(const std::string& exchange, const std::string& symbol) = 0;
+  // The depth kept since the instrument's price feed was subscribed, or null. A port without
+  // price feeds keeps none.
+  virtual const MarketDepthState* feedDepthOf(const std::string& /*exchange*/,
+                                              const std::string& /*symbol*/) const {
+    return nullptr;
+  }
 
  protected:
   ~IssuesPort() = default;

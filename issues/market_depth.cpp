@@ -21,6 +21,8 @@ CMarketDepth::~CMarketDepth() {
 void CMarketDepth::open(const sOFSCol& issue) {
   exchange_ = issue.exchange;
   symbol_ = issue.symbol;
+  floorPrice_ = issue.floorPrice;
+  indicativePrice_ = issue.field54803;
   auto state = std::make_unique<MarketDepthState>();
   state->exchange = issue.exchange;
   state->symbol = issue.symbol;
@@ -63,4 +65,9 @@ std::string CMarketDepth::totalBidQuantity() const {
 
 std::string CMarketDepth::lastUpdate() const {
   return isOpen() ? port_.marketDepthState()->lastUpdate : "NA";
+}
+
+DemandCurve CMarketDepth::demand() const {
+  if (!isOpen()) return demandCurve({}, floorPrice_, indicativePrice_);
+  return demandCurve(port_.marketDepthState()->levels, floorPrice_, indicativePrice_);
 }

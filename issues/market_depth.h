@@ -6,6 +6,7 @@
 #include <string>
 
 #include "domain/records.h"
+#include "issues/demand_curve.h"
 #include "issues/issues_port.h"
 
 class CMarketDepth {
@@ -27,9 +28,13 @@ class CMarketDepth {
   std::array<Level, 5> levels() const;
   std::string totalBidQuantity() const;  // "TBQ"
   std::string lastUpdate() const;        // "NA" until the exchange says
+  // The levels as the demand picture beside them: empty while the window is closed.
+  DemandCurve demand() const;
 
  private:
   IssuesPort& port_;
   std::string symbol_;
   std::string exchange_;
+  std::string floorPrice_;
+  std::string indicativePrice_;
 };

@@ -51,6 +51,10 @@ class DispatchContext {
   virtual void marketDepthChanged() = 0;
   // Hands (exchange, symbol) to the host's receive object so that its updates keep coming.
   virtual void handInstrumentToHost(const std::string& exchange, const std::string& symbol) = 0;
+  // The depth kept for an instrument whose price feed is subscribed, or null.
+  virtual MarketDepthState* feedDepth(const std::string& exchange, const std::string& symbol) = 0;
+  // A kept depth changed; the watch view's details of its issue repaint.
+  virtual void feedDepthChanged(const MarketDepthState& depth) = 0;
 
  protected:
   ~DispatchContext() = default;

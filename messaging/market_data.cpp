@@ -30,23 +30,32 @@ int64_t readLevels(const MessageView& message, MarketDepthState& depth) {
   return quantityChange;
 }
 
-// Only the instrument the open window shows is updated. A reply without a last-update time
-// shows "NA"; a live update without one keeps the old text.
-void applyDepth(DispatchContext& context, const MessageView& message, const Instrument& at,
-                bool liveUpdate) {
-  MarketDepthState* depth = context.marketDepth();
-  if (!depth || depth->exchange != at.exchange || depth->symbol != at.symbol) return;
+// A reply without a last-update time shows "NA"; a live update without one keeps the old text.
+void fillDepth(MarketDepthState& depth, const MessageView& message, bool liveUpdate) {
   std::string lastUpdate = message.text(63080);
   if (!lastUpdate.empty())
-    depth->lastUpdate = lastUpdate;
+    depth.lastUpdate = lastUpdate;
   else if (!liveUpdate)
-    depth->lastUpdate = "NA";
-  int64_t quantityChange = readLevels(message, *depth);
+    depth.lastUpdate = "NA";
+  int64_t quantityChange = readLevels(message, depth);
   int32_t total = 0;
   if (message.number(54283, 0, total))
-    depth->totalBidQuantity = total;
+    depth.totalBidQuantity = total;
   else
-    depth->totalBidQuantity += quantityChange;
+    depth.totalBidQuantity += quantityChange;
+}
+
+// The Market Depth window follows only the instrument it shows. The copy kept for a subscribed
+// feed follows the same messages on its own, whether the window is open or not.
+void applyDepth(DispatchContext& context, const MessageView& message, const Instrument& at,
+                bool liveUpdate) {
+  if (MarketDepthState* kept = context.feedDepth(at.exchange, at.symbol)) {
+    fillDepth(*kept, message, liveUpdate);
+    context.feedDepthChanged(*kept);
+  }
+  MarketDepthState* depth = context.marketDepth();
+  if (!depth || depth->exchange != at.exchange || depth->symbol != at.symbol) return;
+  fillDepth(*depth, message, liveUpdate);
   context.marketDepthChanged();
   context.handInstrumentToHost(at.exchange, at.symbol);
 }

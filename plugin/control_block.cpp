@@ -62,8 +62,16 @@ void COFSControlBlock::handInstrumentToHost(const std::string& exchange,
 }
 
 void COFSControlBlock::ensurePriceFeed(const std::string& exchange, const std::string& symbol) {
-  if (pricedInstruments_.insert(exchange + "|" + symbol).second)
-    subscribeMarketPrice(layer, exchange, symbol);
+  if (feedDepthOf(exchange, symbol)) return;
+  feedDepths_.push_back({exchange, symbol, "NA", {}, 0});
+  subscribeMarketPrice(layer, exchange, symbol);
+}
+
+const MarketDepthState* COFSControlBlock::feedDepthOf(const std::string& exchange,
+                                                      const std::string& symbol) const {
+  for (const MarketDepthState& kept : feedDepths_)
+    if (kept.symbol == symbol && kept.exchange == exchange) return &kept;
+  return nullptr;
 }
 
 bool COFSControlBlock::hasRight(const std::string& rightName) const {

@@ -3,9 +3,9 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
-#include <set>
 #include <string>
 
 #include "basket/basket_port.h"
@@ -67,6 +67,8 @@ class COFSControlBlock final : public IIrbeNotifier,
   std::function<void(std::unique_ptr<sOFSOrderInfo>)> onHistoryRow;
   std::function<void()> onHistoryEnd;
   std::function<void()> onMarketDepthChanged;
+  // The depth kept for a subscribed price feed changed (the watch view's details pane).
+  std::function<void(const MarketDepthState&)> onFeedDepthChanged;
   // Resets and closes the issue dialog; true when it was adding an issue.
   std::function<bool()> onEndIssueDialog;
   // The host made another client active (empty: none); the order book filters to it.
@@ -75,8 +77,11 @@ class COFSControlBlock final : public IIrbeNotifier,
   // Shared with the client subscription worker, which may outlive the block.
   std::shared_ptr<SubscriptionGate> subscriptionGate = std::make_shared<SubscriptionGate>();
 
-  // Subscribes the price feed of an instrument once; later calls do nothing.
+  // Subscribes the price feed of an instrument once and keeps its depth from then on; later
+  // calls do nothing.
   void ensurePriceFeed(const std::string& exchange, const std::string& symbol) override;
+  const MarketDepthState* feedDepthOf(const std::string& exchange,
+                                      const std::string& symbol) const override;
 
   void OnLiveUpdate(otp_msg_t msg) override;
   void OnResponse(otp_msg_t msg) override;
@@ -122,6 +127,12 @@ class COFSControlBlock final : public IIrbeNotifier,
   MarketDepthState* marketDepth() override { return marketDepth_.get(); }
   void marketDepthChanged() override;
   void handInstrumentToHost(const std::string& exchange, const std::string& symbol) override;
+  MarketDepthState* feedDepth(const std::string& exchange, const std::string& symbol) override {
+    return const_cast<MarketDepthState*>(feedDepthOf(exchange, symbol));
+  }
+  void feedDepthChanged(const MarketDepthState& depth) override {
+    if (onFeedDepthChanged) onFeedDepthChanged(depth);
+  }
 
   // OrderEntryPort
   bool isValidAccount(const std::string& account) const override;
@@ -140,7 +151,8 @@ class COFSControlBlock final : public IIrbeNotifier,
   std::unique_ptr<MarketDepthState>& marketDepthState() override { return marketDepth_; }
   std::vector<const sOFSCol*> knownIssues() const override;
 
-  std::set<std::string> pricedInstruments_;
+  // One per subscribed price feed, in the order subscribed; a handful, so a walk finds one.
+  std::deque<MarketDepthState> feedDepths_;
   // Present while the Market Depth window is open.
   std::unique_ptr<MarketDepthState> marketDepth_;
 };

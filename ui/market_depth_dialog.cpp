@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "plugin/control_block.h"
+#include "ui/demand_chart.h"
 
 MarketDepthDialog::MarketDepthDialog(COFSControlBlock& block, QWidget* parent)
     : QDialog(parent), block_(block), depth_(block) {
@@ -18,11 +19,15 @@ MarketDepthDialog::MarketDepthDialog(COFSControlBlock& block, QWidget* parent)
   levels_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   total_ = new QLabel(this);
   lastUpdate_ = new QLabel(this);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(levels_);
-  layout->addWidget(total_);
-  layout->addWidget(lastUpdate_);
-  resize(420, 260);
+  chart_ = new DemandChart(this);
+  auto* book = new QVBoxLayout;
+  book->addWidget(levels_);
+  book->addWidget(total_);
+  book->addWidget(lastUpdate_);
+  auto* layout = new QHBoxLayout(this);
+  layout->addLayout(book, 1);
+  layout->addWidget(chart_, 1);
+  resize(780, 280);
 }
 
 MarketDepthDialog::~MarketDepthDialog() {
@@ -62,4 +67,5 @@ void MarketDepthDialog::repaint() {
   }
   total_->setText("TBQ: " + QString::fromStdString(depth_.totalBidQuantity()));
   lastUpdate_->setText("Last Update: " + QString::fromStdString(depth_.lastUpdate()));
+  chart_->setCurve(depth_.demand());
 }

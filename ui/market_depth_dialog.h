@@ -1,5 +1,5 @@
-// The Market Depth window: five bid levels of one issue, their total (TBQ) and the time of the
-// last change, repainted as the exchange's updates arrive.
+// The Market Depth window: five bid levels of one issue, their total (TBQ), the time of the
+// last change and the demand chart beside them, repainted as the exchange's updates arrive.
 #pragma once
 
 #include <QDialog>
@@ -7,6 +7,7 @@
 #include "issues/market_depth.h"
 
 class COFSControlBlock;
+class DemandChart;
 class QLabel;
 class QTableWidget;
 
@@ -30,4 +31,5 @@ class MarketDepthDialog : public QDialog {
   QTableWidget* levels_;
   QLabel* total_;
   QLabel* lastUpdate_;
+  DemandChart* chart_;
 };

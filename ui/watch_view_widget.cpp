@@ -24,6 +24,7 @@
 #include "ui/order_entry_dialog.h"
 #include "ui/qt_platform.h"
 #include "ui/scrip_properties_dialog.h"
+#include "ui/selected_issue_pane.h"
 
 namespace {
 
@@ -53,7 +54,9 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
   tabs_ = new QTabWidget(this);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(tabs_);
+  layout->addWidget(tabs_, 1);
+  selectedIssue_ = new SelectedIssuePane(block_, this);
+  layout->addWidget(selectedIssue_);
 
   for (size_t i = 0; i < 3; ++i) {
     const auto tab = static_cast<WatchTab>(i);
@@ -79,8 +82,10 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
     tabs_->addTab(list, CWatchView::kTabTitles[i]);
     lists_[i] = list;
   }
-  connect(tabs_, &QTabWidget::currentChanged, this,
-          [this](int index) { core_->setActiveTab(static_cast<WatchTab>(index)); });
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) {
+    core_->setActiveTab(static_cast<WatchTab>(index));
+    selectedIssue_->showIssue(core_->selectedIssue());
+  });
   core_->setChangeListener([this](WatchTab tab, int row) {
     models_[static_cast<size_t>(tab)]->coreChanged(row);
     if (row != 0) return;
@@ -139,6 +144,7 @@ void WatchViewWidget::syncSelection(WatchTab tab) {
   for (const QModelIndex& index : list->selectionModel()->selectedRows())
     rows.push_back(index.row());
   core_->setSelection(tab, std::move(rows));
+  selectedIssue_->showIssue(core_->selectedIssue());
 }
 
 bool WatchViewWidget::selectRows(const QString& tabKey, const QStringList& keys) {
@@ -161,6 +167,7 @@ bool WatchViewWidget::selectRows(const QString& tabKey, const QStringList& keys)
     // Keep the order the keys were given in: the first one is "the" selected issue.
     core_->setSelection(static_cast<WatchTab>(i), std::move(rows));
     core_->setActiveTab(static_cast<WatchTab>(i));
+    selectedIssue_->showIssue(core_->selectedIssue());
     return true;
   }
   return false;

@@ -17,6 +17,7 @@ class IssueDetailsDialog;
 class MarketDepthDialog;
 class OrderEntryDialog;
 class ScripPropertiesDialog;
+class SelectedIssuePane;
 class QTabWidget;
 class QTableView;
 
@@ -68,6 +69,7 @@ class WatchViewWidget : public QWidget, private ScreenLauncher {
   QTabWidget* tabs_;
   std::array<QTableView*, 3> lists_{};
   std::array<IssueListModel*, 3> models_{};
+  SelectedIssuePane* selectedIssue_;
   bool shownOnce_ = false;
   MarketDepthDialog* marketDepth_ = nullptr;
   BasketDialog* basket_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include "issues/market_depth.h"
 #include "issues/scrip_properties.h"
+#include "issues/selected_issue.h"
 #include "plugin/control_block.h"
 #include "plugin/lifecycle.h"
 #include "tests/support/fake_host.h"
@@ -28,6 +29,8 @@ class MarketDepthWindow : public testing::Test {
 };
 
 TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
+  issue.floorPrice = "120";
+  issue.field54803 = "130.25";
   CMarketDepth depth(*controlBlock());
   depth.open(issue);
   EXPECT_EQ(host.state.events, (Lines{"subscribe 5 63001=\"nse_ipo\" 10100=\"ABC-RS\""}));
@@ -52,6 +55,10 @@ TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
   EXPECT_EQ(depth.levels()[1].price, "0.00");
   EXPECT_EQ(depth.totalBidQuantity(), "90");
   EXPECT_EQ(depth.lastUpdate(), "10:15:02");
+  const DemandCurve demand = depth.demand();
+  EXPECT_EQ(demand.points, (std::vector<DemandPoint>{{12550, 40}}));
+  EXPECT_EQ(std::make_pair(demand.floorPaise, demand.indicativePaise),
+            std::make_pair(std::optional<int64_t>(12000), std::optional<int64_t>(13025)));
   // The update handed the instrument to the host again: no second subscription.
   EXPECT_EQ(host.state.events.size(), 1u);
 
@@ -70,6 +77,42 @@ TEST_F(MarketDepthWindow, ClosingAnOlderWindowLeavesTheNewerOnesState) {
   second.open(other);
   first.close();
   EXPECT_TRUE(second.isOpen());
+}
+
+TEST_F(MarketDepthWindow, SelectedIssueFollowsItsFeedOnlyWhenAskedAndWithTheWindowClosed) {
+  issue.floorPrice = "120.00";
+  issue.field54803 = "126";
+  CSelectedIssue selected(*controlBlock());
+  selected.show(&issue);
+  EXPECT_FALSE(selected.followsBids());
+  EXPECT_TRUE(host.state.events.empty());
+  selected.followBids();
+  selected.followBids();
+  EXPECT_EQ(host.state.events, (Lines{"subscribe 5 63001=\"nse_ipo\" 10100=\"ABC-RS\""}));
+
+  int repaints = 0;
+  controlBlock()->onFeedDepthChanged = [&](const MarketDepthState& d) {
+    repaints += selected.isDepthOf(d);
+  };
+  auto update = [&](const FieldList& fields) {
+    controlBlock()->OnLiveUpdate(makeMessage(fields).get());
+  };
+  update({{63001, "nse_ipo"},
+          {10100, "ABC-RS"},
+          {55000, "12550"},
+          {55500, "40"},
+          {55001, "12500"},
+          {55501, "60"}});
+  update({{63001, "nse_ipo"}, {10100, "ABC-RS"}, {55500, "45"}});
+  update({{63001, "bse_ipo"}, {10100, "ABC-RS"}, {55500, "99"}});
+  EXPECT_EQ(repaints, 2);
+  const DemandCurve curve = selected.demand();
+  EXPECT_EQ(curve.points, (std::vector<DemandPoint>{{12550, 45}, {12500, 105}}));
+  EXPECT_EQ(curve.floorPaise, 12000);
+  EXPECT_EQ(curve.indicativePaise, 12600);
+  EXPECT_EQ(selected.facts().at(10).label, "TBQ");
+  EXPECT_EQ(selected.facts().at(10).value, "105");
+  controlBlock()->onFeedDepthChanged = nullptr;
 }
 
 TEST(ScripProperties, ListsEveryPropertyWithReadableLabels) {

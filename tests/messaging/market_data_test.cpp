@@ -41,6 +41,21 @@ TEST_F(MarketData, DepthOfAnotherInstrumentOrWithTwoTagsIsIgnored) {
   EXPECT_TRUE(context.events.empty());
 }
 
+TEST_F(MarketData, ASubscribedFeedKeepsItsDepthWhateverTheWindowShows) {
+  context.kept = MarketDepthState{"bse_ipo", "XYZ-RS", "NA", {}, 0};
+  context.respond(
+      fieldsOf("32767=mrv_master 63001=bse_ipo 10100=XYZ-RS 55000=40100 55500=25 "
+               "56000=2 55001=40000 55501=10 63080=10:15:02"));
+  context.update(fieldsOf("63001=bse_ipo 10100=XYZ-RS 63080= 55500=30"));
+  const MarketDepthState& kept = *context.kept;
+  EXPECT_EQ((std::vector<int64_t>{kept.levels[0].price, kept.levels[0].quantity,
+                                  kept.levels[1].quantity, kept.totalBidQuantity}),
+            (std::vector<int64_t>{40100, 30, 10, 40}));
+  EXPECT_EQ(kept.lastUpdate, "10:15:02");
+  EXPECT_EQ(context.depth->levels[0].price, 0);
+  EXPECT_EQ(context.events, (Lines{"feed depth changed XYZ-RS", "feed depth changed XYZ-RS"}));
+}
+
 TEST_F(MarketData, AssetPriceUsesTwoDecimalsByDefaultAndIsShownOnce) {
   context.store.assets["nse_cm|ABC"] = std::make_unique<sAssetInfo>();
   const FieldList reply =

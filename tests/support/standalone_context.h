@@ -48,6 +48,12 @@ class StandaloneContext : public DispatchContext {
   void handInstrumentToHost(const std::string& exchange, const std::string& symbol) override {
     events.push_back("host gets " + exchange + " " + symbol);
   }
+  MarketDepthState* feedDepth(const std::string& exchange, const std::string& symbol) override {
+    return kept && kept->exchange == exchange && kept->symbol == symbol ? &*kept : nullptr;
+  }
+  void feedDepthChanged(const MarketDepthState& d) override {
+    events.push_back("feed depth changed " + d.symbol);
+  }
 
   OFSRecords store;
   OrderBookLists book;
@@ -57,6 +63,7 @@ class StandaloneContext : public DispatchContext {
   std::vector<std::string> events;
   std::vector<std::unique_ptr<sOFSOrderInfo>> history;
   std::optional<MarketDepthState> depth;  // set: the Market Depth window is open
+  std::optional<MarketDepthState> kept;   // set: the instrument's price feed is subscribed
   bool addIssueRight = false;
   bool dialogAdding = true;  // the issue dialog was adding an issue, not modifying one
 };
