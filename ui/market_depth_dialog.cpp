@@ -6,12 +6,14 @@
 #include <QVBoxLayout>
 
 #include "plugin/control_block.h"
+#include "ui/dialog_keys.h"
 
 MarketDepthDialog::MarketDepthDialog(COFSControlBlock& block, QWidget* parent)
     : QDialog(parent), block_(block), depth_(block) {
   setObjectName("MarketDepth");
   levels_ = new QTableWidget(5, 3, this);
   levels_->setObjectName("levels");
+  levels_->setAccessibleName("Market Depth");
   levels_->setHorizontalHeaderLabels({"Bid Price", "Quantity", "No. of Bids"});
   levels_->verticalHeader()->hide();
   levels_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -22,6 +24,7 @@ MarketDepthDialog::MarketDepthDialog(COFSControlBlock& block, QWidget* parent)
   layout->addWidget(levels_);
   layout->addWidget(total_);
   layout->addWidget(lastUpdate_);
+  setUpKeyboard(this);
   resize(420, 260);
 }
 

@@ -59,7 +59,7 @@ class FakeHost : public PluginPlatform, public SymbolLookup {
   void destroyDialogWindows() override {}
   void setRecoveryFiles(const std::string& userSettings, const std::string& dialogPos) override;
   void createImageList() override {}
-  void reapplyFonts(int64_t) override { ++fontReapplies; }
+  void reapplyFonts(int64_t, int64_t) override { ++fontReapplies; }
   void startDetached(std::function<void()> work) override { work(); }
   int64_t now() const override { return clock; }
 
