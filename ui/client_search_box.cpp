@@ -31,9 +31,9 @@ ClientSearchBox::ClientSearchBox(const HostServiceTable& services, QWidget* pare
     }
   });
 
-  // A window of its own so that it is not clipped by the dialog; it never takes the focus, the
-  // field keeps it and steers the list.
-  list_->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+  // A window of its own so that it is not clipped by the dialog, of the kind that is never
+  // activated: the field keeps the keyboard and steers the list.
+  list_->setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
   list_->setAttribute(Qt::WA_ShowWithoutActivating);
   list_->setFocusPolicy(Qt::NoFocus);
   list_->setAccessibleName("Client Search Results");

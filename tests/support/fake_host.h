@@ -26,6 +26,8 @@ struct FakeHostState {
   bool clientOverview = false;
   std::vector<std::string> assignedClients;
   std::string userDirectory;
+  // The client search: the ids that begin with the typed text, after no delay.
+  std::vector<std::string> searchList;
   int uuidCounter = 0;
 
   // What the plug-in did to the host, in order: send/subscribe lines of the receive controls,
