@@ -110,6 +110,7 @@ BulkUploadDialog::BulkUploadDialog(COFSControlBlock& block, QWidget* parent)
   screen_.setListener(this);
   setUpKeyboard(this);
   resize(1000, 600);
+  followHostFonts(this, block.fontVariation);
 }
 
 BulkUploadDialog::~BulkUploadDialog() {

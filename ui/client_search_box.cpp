@@ -111,6 +111,13 @@ void ClientSearchBox::keyPressEvent(QKeyEvent* event) {
   event->accept();
 }
 
+void ClientSearchBox::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  // The host keeps its registered client search field in step with its fonts.
+  if (event->type() == QEvent::FontChange && services_.resizeEditForFontChange)
+    services_.resizeEditForFontChange(this);
+}
+
 void ClientSearchBox::focusOutEvent(QFocusEvent* event) {
   // A click into the results moves the window activation, not the focus: the list stays.
   if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {

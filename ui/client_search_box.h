@@ -32,6 +32,7 @@ class ClientSearchBox : public QLineEdit {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void showResults(const StringList& found);

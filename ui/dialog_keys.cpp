@@ -110,6 +110,11 @@ void applyFontVariation(QWidget* window, int64_t variation, int64_t stamp) {
   window->resize(window->size().expandedTo(window->sizeHint()));
 }
 
+void followHostFonts(QWidget* window, const std::array<int64_t, 2>& hostVariation) {
+  if (hostVariation != std::array<int64_t, 2>{})
+    applyFontVariation(window, hostVariation[0], hostVariation[1]);
+}
+
 void reapplyWindowFonts(QObject* root, int64_t variation, int64_t stamp) {
   for (const char* name : kFontFollowingWindows)
     if (auto* window = root->findChild<QDialog*>(name))

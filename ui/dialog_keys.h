@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <array>
 #include <cstdint>
 
 class QObject;
@@ -27,5 +28,7 @@ void applyFontVariation(QWidget* window, int64_t variation, int64_t stamp);
 // The plug-in's windows that follow the host's fonts, in the order they are re-applied.
 inline constexpr const char* kFontFollowingWindows[] = {"OrderEntry", "BulkUpload", "IssueDetails",
                                                         "ModifyPrice", "MarketDepth"};
+// A window made after the host's fonts changed starts with them.
+void followHostFonts(QWidget* window, const std::array<int64_t, 2>& hostVariation);
 // Re-applies the variation to each of those windows that exists under `root`.
 void reapplyWindowFonts(QObject* root, int64_t variation, int64_t stamp);

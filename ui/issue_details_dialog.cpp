@@ -109,6 +109,7 @@ IssueDetailsDialog::IssueDetailsDialog(COFSControlBlock& block, QWidget* parent)
   layout->addLayout(buttons);
 
   setUpKeyboard(this);
+  followHostFonts(this, block.fontVariation);
   screen_.setListener([this] { fieldsChanged(); });
   // The answer to a sent issue resets and closes the dialog.
   block_.onEndIssueDialog = [this] {

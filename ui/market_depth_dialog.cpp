@@ -26,6 +26,7 @@ MarketDepthDialog::MarketDepthDialog(COFSControlBlock& block, QWidget* parent)
   layout->addWidget(lastUpdate_);
   setUpKeyboard(this);
   resize(420, 260);
+  followHostFonts(this, block.fontVariation);
 }
 
 MarketDepthDialog::~MarketDepthDialog() {

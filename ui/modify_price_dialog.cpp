@@ -65,6 +65,7 @@ ModifyPriceDialog::ModifyPriceDialog(COFSControlBlock& block, QWidget* parent)
   connect(cancel, &QPushButton::clicked, this, [this] { screen_.cancel(); });
   screen_.setListener(this);
   setUpKeyboard(this);
+  followHostFonts(this, block.fontVariation);
 }
 
 ModifyPriceDialog::~ModifyPriceDialog() {

@@ -111,6 +111,7 @@ OrderEntryDialog::OrderEntryDialog(COFSControlBlock& block, PromptPort& prompt, 
   screen_.setListener(this);
   headingChanged();
   setUpKeyboard(this);
+  followHostFonts(this, block.fontVariation);
 }
 
 void OrderEntryDialog::bindText(QLineEdit* edit,
