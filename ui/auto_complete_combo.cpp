@@ -8,7 +8,10 @@ AutoCompleteCombo::AutoCompleteCombo(QWidget* parent) : QComboBox(parent) {
   setInsertPolicy(QComboBox::NoInsert);
   // Our own completion: Qt's completer would pop up a second list over the entries.
   setCompleter(nullptr);
-  connect(this, &QComboBox::textActivated, this, [this](const QString& text) { taken_ = text; });
+  connect(this, &QComboBox::textActivated, this, [this](const QString& text) {
+    taken_ = text;
+    typed_ = false;
+  });
 }
 
 int AutoCompleteCombo::firstMatch(const QString& typed) const {
@@ -27,13 +30,23 @@ void AutoCompleteCombo::take() {
   emit textActivated(itemText(match));
 }
 
+void AutoCompleteCombo::focusOutEvent(QFocusEvent* event) {
+  // Tabbing on from a completed entry takes it, as Enter would have.
+  const int match = firstMatch(lineEdit()->text());
+  if (typed_ && match >= 0 &&
+      itemText(match).compare(lineEdit()->text(), Qt::CaseInsensitive) == 0 &&
+      itemText(match) != taken_)
+    take();
+  QComboBox::focusOutEvent(event);
+}
+
 void AutoCompleteCombo::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && !lineEdit()->text().isEmpty()) {
-    // The first Enter takes a completion still open; once taken, Enter belongs to the window's
-    // default button.
+    // Enter after typing takes the completion; otherwise it belongs to the window's default
+    // button.
     const int match = firstMatch(lineEdit()->text());
-    const bool pending = match >= 0 && itemText(match) != taken_;
+    const bool pending = typed_ && match >= 0 && itemText(match) != taken_;
     if (pending) {
       take();
       event->accept();
@@ -45,6 +58,7 @@ void AutoCompleteCombo::keyPressEvent(QKeyEvent* event) {
   QComboBox::keyPressEvent(event);
   const QString typed = event->text();
   if (typed.isEmpty() || !typed.at(0).isPrint()) return;
+  typed_ = true;
   QLineEdit* edit = lineEdit();
   if (edit->cursorPosition() != edit->text().size()) return;
   const QString start = edit->text();

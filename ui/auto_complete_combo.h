@@ -13,9 +13,11 @@ class AutoCompleteCombo : public QComboBox {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void take();
 
-  QString taken_;  // the entry last taken, by Enter or from the list
+  QString taken_;       // the entry last taken, by Enter or from the list
+  bool typed_ = false;  // typed into since then
 };

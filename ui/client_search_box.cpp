@@ -118,6 +118,13 @@ void ClientSearchBox::changeEvent(QEvent* event) {
     services_.resizeEditForFontChange(this);
 }
 
+void ClientSearchBox::hideEvent(QHideEvent* event) {
+  // The list is a window of its own: it does not close with the dialog by itself.
+  timer_.stop();
+  list_->hide();
+  QLineEdit::hideEvent(event);
+}
+
 void ClientSearchBox::focusOutEvent(QFocusEvent* event) {
   // A click into the results moves the window activation, not the focus: the list stays.
   if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {

@@ -33,6 +33,7 @@ class ClientSearchBox : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   void showResults(const StringList& found);
