@@ -111,6 +111,7 @@ IssueDetailsDialog::IssueDetailsDialog(COFSControlBlock& block, QWidget* parent)
   setUpKeyboard(this);
   followHostFonts(this, block.fontVariation);
   screen_.setListener([this] { fieldsChanged(); });
+  fieldsChanged();
   // The answer to a sent issue resets and closes the dialog.
   block_.onEndIssueDialog = [this] {
     hide();

@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QTest>
-#include <functional>
 
 #include "orderbook/modify_price_checks.h"
 #include "tests/support/order_entry_fixture.h"
@@ -32,16 +31,10 @@ struct Made {
 
 struct Window {
   const char* name;
-  std::function<QDialog*(Made&)> open;  // makes the window and opens it as the dealer would
+  QDialog* (*make)(Made&);
   std::vector<std::string> refusalFields;
   friend void PrintTo(const Window& w, std::ostream* os) { *os << w.name; }
 };
-
-template <class Dialog>
-Dialog* opened(Dialog* dialog, const std::function<void(Dialog&)>& open) {
-  open(*dialog);
-  return dialog;
-}
 
 std::vector<std::string> issueFields() {
   std::vector<std::string> fields(kIssueListLabels.begin(), kIssueListLabels.end());
@@ -49,59 +42,24 @@ std::vector<std::string> issueFields() {
   return fields;
 }
 
-const sOFSCol kIssue = nseIssue();
 using namespace basket_label;
-
+using D = QDialog*;
 const Window kWindows[] = {
     {"OrderEntry",
-     [](Made& m) {
-       return opened<OrderEntryDialog>(new OrderEntryDialog(m.block, m.prompt),
-                                       [](auto& d) { d.openNewBid(kIssue); });
-     },
+     [](Made& m) -> D { return new OrderEntryDialog(m.block, m.prompt); },
      {entry_label::kQuantity, entry_label::kPrice, entry_label::kClientCode}},
     {"Basket",
-     [](Made& m) {
-       return opened<BasketDialog>(new BasketDialog(m.block), [](auto& d) { d.openOn(&kIssue); });
-     },
+     [](Made& m) -> D { return new BasketDialog(m.block); },
      {kClientId, kQuantity, kPrice}},
-    {"BulkUpload",
-     [](Made& m) {
-       return opened<BulkUploadDialog>(new BulkUploadDialog(m.block),
-                                       [](auto& d) { d.openOn(&kIssue); });
-     },
-     {}},
-    {"IssueDetails",
-     [](Made& m) {
-       return opened<IssueDetailsDialog>(new IssueDetailsDialog(m.block),
-                                         [](auto& d) { d.openOn(nullptr); });
-     },
-     issueFields()},
+    {"BulkUpload", [](Made& m) -> D { return new BulkUploadDialog(m.block); }, {}},
+    {"IssueDetails", [](Made& m) -> D { return new IssueDetailsDialog(m.block); }, issueFields()},
     {"ModifyPrice",
-     [](Made& m) {
-       return opened<ModifyPriceDialog>(new ModifyPriceDialog(m.block),
-                                        [](auto& d) { d.present({}, "Modify"); });
-     },
+     [](Made& m) -> D { return new ModifyPriceDialog(m.block); },
      {kModifyPriceLabel, kModifyQuantityLabel}},
-    {"OrderHistory",
-     [](Made& m) { return opened<QDialog>(&m.history, [](auto& d) { d.show(); }); },
-     {}},
-    {"OrderNumber",
-     [](Made& m) {
-       return opened<QDialog>(new OrderNumberDialog(m.history), [](auto& d) { d.show(); });
-     },
-     {}},
-    {"MarketDepth",
-     [](Made& m) {
-       return opened<MarketDepthDialog>(new MarketDepthDialog(m.block),
-                                        [](auto& d) { d.showIssue(kIssue); });
-     },
-     {}},
-    {"ScripProperties",
-     [](Made&) {
-       return opened<ScripPropertiesDialog>(new ScripPropertiesDialog,
-                                            [](auto& d) { d.showIssue(kIssue); });
-     },
-     {}},
+    {"OrderHistory", [](Made& m) -> D { return new OrderHistoryDialog(m.block); }, {}},
+    {"OrderNumber", [](Made& m) -> D { return new OrderNumberDialog(m.history); }, {}},
+    {"MarketDepth", [](Made& m) -> D { return new MarketDepthDialog(m.block); }, {}},
+    {"ScripProperties", [](Made&) -> D { return new ScripPropertiesDialog; }, {}},
 };
 
 // The name a screen reader announces: a field's own, a button's text. (Qt on Linux reads a
@@ -125,25 +83,21 @@ class WindowKeys : public OrderEntryFixture, public testing::WithParamInterface<
     start();
     history = std::make_unique<OrderHistoryDialog>(block());
     Made made{block(), qtPrompt, *history};
-    window = GetParam().open(made);
-    if (window != history.get()) owned.reset(window);
-    QApplication::setActiveWindow(window);
+    window.reset(GetParam().make(made));
+    window->show();
+    QApplication::setActiveWindow(window.get());
   }
-  ~WindowKeys() override {
-    owned.reset();
-    history.reset();
-  }
+  ~WindowKeys() override { window.reset(); }
 
   QtPrompt qtPrompt;
   std::unique_ptr<OrderHistoryDialog> history;
-  std::unique_ptr<QDialog> owned;
-  QDialog* window = nullptr;
+  std::unique_ptr<QDialog> window;
 };
 
 TEST_P(WindowKeys, EveryControlHasAnAccessibleName) {
   int controls = 0;
   for (QWidget* w : window->findChildren<QWidget*>()) {
-    if (!isControl(w, window)) continue;
+    if (!isControl(w, window.get())) continue;
     ++controls;
     EXPECT_FALSE(nameOf(w).isEmpty()) << w->metaObject()->className();
   }
@@ -162,7 +116,7 @@ TEST_P(WindowKeys, ARefusalsFieldTakesTheFocus) {
 
 TEST_P(WindowKeys, EscapeClosesTheWindow) {
   ASSERT_TRUE(window->isVisible());
-  QTest::keyClick(window->focusWidget() ? window->focusWidget() : window, Qt::Key_Escape);
+  QTest::keyClick(window->focusWidget() ? window->focusWidget() : window.get(), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
 }
 
