@@ -62,13 +62,15 @@ QString plain(QString text) {
   return text.remove('&');
 }
 
-}  // namespace
-
+// The window's focusable controls in reading order: its layouts walked row by row, left to
+// right, whether or not a control is shown at the moment (hidden ones keep their place).
 QList<QWidget*> readingOrder(QWidget* window) {
   QList<QWidget*> order;
   collectLayout(window->layout(), order);
   return order;
 }
+
+}  // namespace
 
 void setUpKeyboard(QWidget* window) {
   // Read-only fields are there to be read: a click reaches them for copying, Tab passes them.
@@ -79,7 +81,7 @@ void setUpKeyboard(QWidget* window) {
   for (QLabel* label : window->findChildren<QLabel*>())
     if (QWidget* field = label->buddy(); field && field->accessibleName().isEmpty())
       field->setAccessibleName(plain(label->text()));
-  // Buttons and tick boxes are read by their text, which some of them change as they go.
+  // Buttons and tick boxes are left to be read by their text, which some of them change.
   for (QAbstractItemView* list : window->findChildren<QAbstractItemView*>())
     if (list->accessibleName().isEmpty() && list->window() == window)
       list->setAccessibleName(list->objectName());

@@ -1,18 +1,14 @@
 // Keyboard and font set-up shared by the plug-in's windows.
 #pragma once
 
-#include <QList>
 #include <array>
 #include <cstdint>
 
 class QObject;
 class QWidget;
 
-// The window's focusable controls in reading order: its layouts walked row by row, left to
-// right, whether or not a control is shown at the moment.
-QList<QWidget*> readingOrder(QWidget* window);
-
-// Tab order follows the reading order, and a field takes its label's text as its accessible name
+// Tab order follows the reading order of the window's layouts (row by row, left to right;
+// read-only fields are passed), and a field takes its label's text as its accessible name
 // (the name the refusals use to put the focus on it). A list without a name takes its object
 // name; a window should name its lists by their titles.
 void setUpKeyboard(QWidget* window);

@@ -1,7 +1,6 @@
 #include "ui/msg_box.h"
 
 #include <QApplication>
-#include <QPushButton>
 
 CMsgBox::CMsgBox(Kind kind, const QString& text, QWidget* parent, const QString& title)
     : QMessageBox(parent) {
@@ -18,5 +17,4 @@ CMsgBox::CMsgBox(Kind kind, const QString& text, QWidget* parent, const QString&
     setDefaultButton(QMessageBox::Ok);
     setEscapeButton(QMessageBox::Ok);
   }
-  for (QAbstractButton* b : buttons()) b->setAccessibleName(b->text().remove('&'));
 }
