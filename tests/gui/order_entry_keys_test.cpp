@@ -80,4 +80,25 @@ TEST_F(OrderEntryKeys, ABidPlacedWithTheKeyboardAloneIsSent) {
     EXPECT_NE(sends()[0].find(field), std::string::npos) << field << " in " << sends()[0];
 }
 
+TEST_F(OrderEntryKeys, TheClientBaseAnswersWhenTheListHasNoneAndWithoutEitherTypingWorks) {
+  HostServiceTable& services = block().services;
+  services.getEnteredTextResults = [](const std::string&, StringList& out) {
+    return out.clear(), 1;
+  };
+  services.getEnteredTextResultsFromClientsDb = [](const std::string&, StringList& out) {
+    return out = {"C9 - Nine"}, 1;
+  };
+  while (focused() != clientCode()) key(Qt::Key_Tab);
+  type("C");
+  QTRY_VERIFY(clientCode()->resultsShown());
+  key(Qt::Key_Return);
+  EXPECT_EQ(clientCode()->text(), "C9");  // the id without the name
+  services.getEnteredTextResults = nullptr;
+  services.getEnteredTextResultsFromClientsDb = nullptr;
+  type("1");
+  QTest::qWait(20);
+  EXPECT_FALSE(clientCode()->resultsShown());
+  EXPECT_EQ(clientCode()->text(), "C91");
+}
+
 }  // namespace
