@@ -70,14 +70,8 @@ int fontVariation(int64_t* a, int64_t* b) {
   *b = 9;
   return 1;
 }
-StringList startingWith(const StringList& ids, const std::string& typed) {
-  StringList found;
-  for (const std::string& id : ids)
-    if (id.rfind(typed, 0) == 0) found.push_back(id);
-  return found;
-}
-int searchList(const std::string& typed, StringList& out) {
-  out = startingWith(st().searchList, typed);
+int searchList(const std::string&, StringList& out) {
+  out = st().searchList;
   return 1;
 }
 int searchDelay() {

@@ -27,7 +27,7 @@ struct FakeHostState {
   bool clientOverview = false;
   std::vector<std::string> assignedClients;
   std::string userDirectory;
-  // The client search: the ids that begin with the typed text, after no delay.
+  // What the client search finds, whatever was typed, after no delay.
   std::vector<std::string> searchList;
   int uuidCounter = 0;
 
