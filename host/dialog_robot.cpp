@@ -1,5 +1,6 @@
 #include "host/dialog_robot.h"
 
+#include <QApplication>
 #include <QDynamicPropertyChangeEvent>
 #include <QEvent>
 #include <QFileDialog>
@@ -51,10 +52,11 @@ bool DialogRobot::eventFilter(QObject* watched, QEvent* event) {
       QTimer::singleShot(0, box,
                          [box, yes] { box->done(yes ? QMessageBox::Yes : QMessageBox::No); });
     } else {
-      // A box with a caption of its own shows it before its text.
+      // A box with a caption of its own (not the terminal's name) shows it before its text.
       const std::string title = box->windowTitle().toStdString();
-      transcript().line("msgbox " + (title.empty() ? "" : otpx::quote(title) + " ") +
-                        otpx::quote(text));
+      const bool own =
+          !title.empty() && box->windowTitle() != QApplication::applicationDisplayName();
+      transcript().line("msgbox " + (own ? otpx::quote(title) + " " : "") + otpx::quote(text));
       QTimer::singleShot(0, box, [box] { box->done(QMessageBox::Ok); });
     }
     return false;

@@ -155,7 +155,7 @@ void applyFontPreference(int64_t* variation, int64_t* stamp) {
   int64_t second = 0;
   block->services.getFontVariation(variation ? variation : &first, stamp ? stamp : &second);
   block->fontVariation = {variation ? *variation : first, stamp ? *stamp : second};
-  block->platform.reapplyFonts(block->fontVariation[0]);
+  block->platform.reapplyFonts(block->fontVariation[0], block->fontVariation[1]);
 }
 
 const std::string& activeClient() {

@@ -30,8 +30,8 @@ class PluginPlatform {
   // Creates the shared 9x5 image list used by the lists' row markers.
   virtual void createImageList() = 0;
   // Re-applies fonts to the open dialogs (order entry, bulk upload, issue details, modify price,
-  // market depth, in that order) with the new font stamp.
-  virtual void reapplyFonts(int64_t fontStamp) = 0;
+  // market depth, in that order) with the host's font variation, recording its font stamp.
+  virtual void reapplyFonts(int64_t variation, int64_t fontStamp) = 0;
   // Starts a detached worker thread.
   virtual void startDetached(std::function<void()> work) = 0;
   // Seconds since 1970 by the clock the plug-in reads.

@@ -13,7 +13,10 @@
 
 #include "plugin/control_block.h"
 #include "ui/basket_list_model.h"
+#include "ui/dialog_keys.h"
 #include "ui/entry_widgets.h"
+#include "ui/numeric_edit.h"
+#include "ui/splitter_frame.h"
 
 using namespace basket_label;
 
@@ -41,8 +44,8 @@ BasketDialog::BasketDialog(COFSControlBlock& block, QWidget* parent)
     place(fact.first, *fact.second);
   }
   orderType_ = new QComboBox(this);
-  quantity_ = new QLineEdit(this);
-  price_ = new QLineEdit(this);
+  quantity_ = new NumericEdit(NumericEdit::Kind::Digits, &block.prompt(), this);
+  price_ = new NumericEdit(NumericEdit::Kind::Decimal, &block.prompt(), this);
   clientId_ = new QComboBox(this);
   margin_ = new QComboBox(this);
   participantCode_ = new QComboBox(this);
@@ -61,6 +64,7 @@ BasketDialog::BasketDialog(COFSControlBlock& block, QWidget* parent)
   model_ = new BasketListModel(screen_, this);
   list_ = new QTableView(this);
   list_->setObjectName("basket");
+  list_->setAccessibleName("Basket Orders");
   list_->setModel(model_);
   list_->setSelectionBehavior(QAbstractItemView::SelectRows);
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -84,10 +88,18 @@ BasketDialog::BasketDialog(COFSControlBlock& block, QWidget* parent)
   buttons->addWidget(add_);
   buttons->addWidget(count_);
 
+  auto* entry = new QWidget(this);
+  auto* entryLayout = new QVBoxLayout(entry);
+  entryLayout->setContentsMargins(0, 0, 0, 0);
+  entryLayout->addLayout(grid);
+  entryLayout->addLayout(buttons);
+  auto* panes = new SplitterFrame(objectName(), this);
+  panes->addWidget(entry);
+  panes->addWidget(list_);
+  panes->setStretchFactor(1, 1);
+  panes->restoreSizes();
   auto* layout = new QVBoxLayout(this);
-  layout->addLayout(grid);
-  layout->addLayout(buttons);
-  layout->addWidget(list_, 1);
+  layout->addWidget(panes);
 
   bindText(quantity_, &CBasketManagerOFS::setQuantity);
   bindText(price_, &CBasketManagerOFS::setPrice);
@@ -97,6 +109,7 @@ BasketDialog::BasketDialog(COFSControlBlock& block, QWidget* parent)
   bindChoice(participantCode_, &CBasketManagerOFS::selectParticipantCode);
   connect(cutOff_, &QCheckBox::clicked, this, [this](bool ticked) { screen_.setCutOff(ticked); });
   screen_.setListener(this);
+  setUpKeyboard(this);
   resize(900, 520);
 }
 

@@ -18,8 +18,12 @@
 #include <memory>
 
 #include "plugin/control_block.h"
+#include "ui/auto_complete_combo.h"
 #include "ui/bulk_upload_model.h"
+#include "ui/dialog_keys.h"
 #include "ui/entry_widgets.h"
+#include "ui/numeric_edit.h"
+#include "ui/splitter_frame.h"
 
 namespace {
 
@@ -42,7 +46,7 @@ int perMille(long done, long total) {
 }  // namespace
 
 BulkUploadDialog::BulkUploadDialog(COFSControlBlock& block, QWidget* parent)
-    : QDialog(parent), screen_(block) {
+    : QDialog(parent), prompt_(block.prompt()), screen_(block) {
   setObjectName("BulkUpload");
   setWindowTitle(CBulkUpload::kTitle);
   setProperty("dumpName", "bulk");
@@ -59,6 +63,7 @@ BulkUploadDialog::BulkUploadDialog(COFSControlBlock& block, QWidget* parent)
   model_ = new BulkGridModel(screen_, this);
   grid_ = new QTableView(this);
   grid_->setObjectName("bulk");
+  grid_->setAccessibleName("Bulk Orders");
   grid_->setModel(model_);
   grid_->setSelectionBehavior(QAbstractItemView::SelectRows);
   grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -69,6 +74,7 @@ BulkUploadDialog::BulkUploadDialog(COFSControlBlock& block, QWidget* parent)
   refusedModel_ = new BulkRefusedModel(screen_, this);
   refused_ = new QListView(this);
   refused_->setObjectName("refused");
+  refused_->setAccessibleName("Refused Orders");
   refused_->setModel(refusedModel_);
   refused_->setUniformItemSizes(true);
 
@@ -86,14 +92,25 @@ BulkUploadDialog::BulkUploadDialog(COFSControlBlock& block, QWidget* parent)
   buttons->addWidget(exportInvalid_);
   buttons->addStretch(1);
 
+  auto* entry = new QWidget(this);
+  auto* entryLayout = new QVBoxLayout(entry);
+  entryLayout->setContentsMargins(0, 0, 0, 0);
+  entryLayout->addWidget(entryFields());
+  entryLayout->addLayout(buttons);
+  auto* panes = new SplitterFrame(objectName(), this);
+  panes->addWidget(entry);
+  panes->addWidget(grid_);
+  panes->addWidget(refused_);
+  panes->setStretchFactor(1, 4);
+  panes->setStretchFactor(2, 1);
+  panes->restoreSizes();
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(entryFields());
-  layout->addLayout(buttons);
-  layout->addWidget(grid_, 4);
-  layout->addWidget(refused_, 1);
+  layout->addWidget(panes, 1);
   layout->addWidget(status_);
   screen_.setListener(this);
+  setUpKeyboard(this);
   resize(1000, 600);
+  followHostFonts(this, block.fontVariation);
 }
 
 BulkUploadDialog::~BulkUploadDialog() {
@@ -114,8 +131,10 @@ QWidget* BulkUploadDialog::entryFields() {
   };
   place("OFS Id", text(&BulkEntry::ofsId));
   place("Exchange", choice(&BulkEntry::exchange, {"NSEIPO", "BSEIPO"}));
-  place("Quantity", text(&BulkEntry::quantity));
-  place("Price", text(&BulkEntry::price));
+  place("Quantity",
+        text(&BulkEntry::quantity, new NumericEdit(NumericEdit::Kind::Digits, &prompt_, box)));
+  place("Price",
+        text(&BulkEntry::price, new NumericEdit(NumericEdit::Kind::Decimal, &prompt_, box)));
   QComboBox* orderType = choice(&BulkEntry::orderType,
                                 {"", "Retail", "Non-institutional", "Institutional", "Employee"});
   disconnect(orderType, &QComboBox::textActivated, this, nullptr);
@@ -123,8 +142,7 @@ QWidget* BulkUploadDialog::entryFields() {
           [this](const QString& type) { screen_.selectOrderType(type.toStdString()); });
   place("Order Type", orderType);
   place("Pro/Cli", choice(&BulkEntry::proCli, {"CLI", "PRO"}));
-  clientId_ = new QComboBox(box);
-  clientId_->setEditable(true);
+  clientId_ = new AutoCompleteCombo(box);
   connect(clientId_, &QComboBox::textActivated, this,
           [this](const QString& account) { screen_.selectClientId(account.toStdString()); });
   place("Client ID", clientId_);
@@ -143,12 +161,13 @@ QWidget* BulkUploadDialog::entryFields() {
   });
   grid->addWidget(cutOff_, at / 4, (at % 4) * 2 + 1);
   QPushButton* add = button("Add", [this] { screen_.add(); });
+  add->setDefault(true);  // Enter adds the bid
   grid->addWidget(add, at / 4, (at % 4) * 2 + 2);
   return box;
 }
 
-QLineEdit* BulkUploadDialog::text(std::string BulkEntry::*field) {
-  auto* edit = new QLineEdit(this);
+QLineEdit* BulkUploadDialog::text(std::string BulkEntry::*field, QLineEdit* edit) {
+  if (!edit) edit = new QLineEdit(this);
   connect(edit, &QLineEdit::textEdited, this,
           [this, field](const QString& typed) { screen_.entry().*field = typed.toStdString(); });
   texts_.emplace_back(edit, field);

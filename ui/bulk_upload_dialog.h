@@ -17,6 +17,7 @@ class QLineEdit;
 class QListView;
 class QPushButton;
 class QTableView;
+class PromptPort;
 
 class BulkUploadDialog : public QDialog, private BulkUploadListener {
   Q_OBJECT
@@ -33,13 +34,15 @@ class BulkUploadDialog : public QDialog, private BulkUploadListener {
   void fieldsChanged() override;
   void rowsChanged() override;
   QWidget* entryFields();
-  QLineEdit* text(std::string BulkEntry::*field);
+  // A text field bound to `field`; `edit` when given, else a plain one.
+  QLineEdit* text(std::string BulkEntry::*field, QLineEdit* edit = nullptr);
   QComboBox* choice(std::string BulkEntry::*field, const QStringList& items);
   QPushButton* button(const char* text, const std::function<void()>& run);
   void browse();
   void place();
   void deleteRow();
 
+  PromptPort& prompt_;
   CBulkUpload screen_;
   BulkGridModel* model_;
   BulkRefusedModel* refusedModel_;

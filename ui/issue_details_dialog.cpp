@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "plugin/control_block.h"
+#include "ui/dialog_keys.h"
 #include "ui/entry_widgets.h"
 
 namespace {
@@ -92,6 +93,7 @@ IssueDetailsDialog::IssueDetailsDialog(COFSControlBlock& block, QWidget* parent)
   submit_->setDefault(true);
   connect(submit_, &QPushButton::clicked, this, [this] { screen_.submit(); });
   auto* close = new QPushButton("Close", this);
+  close->setAutoDefault(false);
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
   auto* ticks = new QHBoxLayout;
   ticks->addWidget(cutOff_);
@@ -106,7 +108,10 @@ IssueDetailsDialog::IssueDetailsDialog(COFSControlBlock& block, QWidget* parent)
   layout->addLayout(ticks);
   layout->addLayout(buttons);
 
+  setUpKeyboard(this);
+  followHostFonts(this, block.fontVariation);
   screen_.setListener([this] { fieldsChanged(); });
+  fieldsChanged();
   // The answer to a sent issue resets and closes the dialog.
   block_.onEndIssueDialog = [this] {
     hide();

@@ -39,3 +39,19 @@ void rememberFlag(const QString& listName, const QString& key, bool value) {
   QSettings settings(userSettingsFile, QSettings::IniFormat);
   settings.setValue(listName + "/" + key, value);
 }
+
+QList<int> rememberedSizes(const QString& name) {
+  if (userSettingsFile.isEmpty()) return {};
+  QSettings settings(userSettingsFile, QSettings::IniFormat);
+  QList<int> sizes;
+  for (const QVariant& size : settings.value(name + "/PaneSizes").toList()) sizes << size.toInt();
+  return sizes;
+}
+
+void rememberSizes(const QString& name, const QList<int>& sizes) {
+  if (userSettingsFile.isEmpty()) return;
+  QSettings settings(userSettingsFile, QSettings::IniFormat);
+  QVariantList values;
+  for (int size : sizes) values << size;
+  settings.setValue(name + "/PaneSizes", values);
+}

@@ -2,6 +2,7 @@
 // recovery file handed over at start-up.
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class QHeaderView;
@@ -15,3 +16,7 @@ void saveColumns(const QHeaderView* header, const QString& listName);
 // A yes/no choice of a list (its grid lines, ...), remembered beside its columns.
 bool rememberedFlag(const QString& listName, const QString& key, bool otherwise);
 void rememberFlag(const QString& listName, const QString& key, bool value);
+
+// The sizes of a window's panes (its splitter), remembered beside the lists.
+QList<int> rememberedSizes(const QString& name);
+void rememberSizes(const QString& name, const QList<int>& sizes);

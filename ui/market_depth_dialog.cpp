@@ -7,12 +7,14 @@
 
 #include "plugin/control_block.h"
 #include "ui/demand_chart.h"
+#include "ui/dialog_keys.h"
 
 MarketDepthDialog::MarketDepthDialog(COFSControlBlock& block, QWidget* parent)
     : QDialog(parent), block_(block), depth_(block) {
   setObjectName("MarketDepth");
   levels_ = new QTableWidget(5, 3, this);
   levels_->setObjectName("levels");
+  levels_->setAccessibleName("Market Depth");
   levels_->setHorizontalHeaderLabels({"Bid Price", "Quantity", "No. of Bids"});
   levels_->verticalHeader()->hide();
   levels_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -27,7 +29,9 @@ MarketDepthDialog::MarketDepthDialog(COFSControlBlock& block, QWidget* parent)
   auto* layout = new QHBoxLayout(this);
   layout->addLayout(book, 1);
   layout->addWidget(chart_, 1);
+  setUpKeyboard(this);
   resize(780, 280);
+  followHostFonts(this, block.fontVariation);
 }
 
 MarketDepthDialog::~MarketDepthDialog() {

@@ -11,7 +11,9 @@
 
 #include "orderbook/modify_price_checks.h"
 #include "plugin/control_block.h"
+#include "ui/dialog_keys.h"
 #include "ui/modify_price_model.h"
+#include "ui/numeric_edit.h"
 
 ModifyPriceDialog::ModifyPriceDialog(COFSControlBlock& block, QWidget* parent)
     : QDialog(parent), screen_(block) {
@@ -24,14 +26,15 @@ ModifyPriceDialog::ModifyPriceDialog(COFSControlBlock& block, QWidget* parent)
   model_ = new ModifyPriceModel(screen_, this);
   auto* orders = new QTableView(this);
   orders->setObjectName("orders");
+  orders->setAccessibleName("Orders");
   orders->setModel(model_);
   orders->verticalHeader()->hide();
   orders->setEditTriggers(QAbstractItemView::NoEditTriggers);
   orders->setSelectionBehavior(QAbstractItemView::SelectRows);
   orders->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
 
-  price_ = new QLineEdit(this);
-  quantity_ = new QLineEdit(this);
+  price_ = new NumericEdit(NumericEdit::Kind::Decimal, &block.prompt(), this);
+  quantity_ = new NumericEdit(NumericEdit::Kind::Digits, &block.prompt(), this);
   auto* form = new QFormLayout;
   for (auto [label, field] :
        {std::pair{kModifyPriceLabel, price_}, std::pair{kModifyQuantityLabel, quantity_}}) {
@@ -61,6 +64,8 @@ ModifyPriceDialog::ModifyPriceDialog(COFSControlBlock& block, QWidget* parent)
   connect(ok, &QPushButton::clicked, this, [this] { screen_.ok(); });
   connect(cancel, &QPushButton::clicked, this, [this] { screen_.cancel(); });
   screen_.setListener(this);
+  setUpKeyboard(this);
+  followHostFonts(this, block.fontVariation);
 }
 
 ModifyPriceDialog::~ModifyPriceDialog() {

@@ -6,28 +6,30 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "plugin/control_block.h"
+#include "ui/client_search_box.h"
+#include "ui/dialog_keys.h"
 #include "ui/entry_widgets.h"
+#include "ui/numeric_edit.h"
 
 OrderEntryDialog::OrderEntryDialog(COFSControlBlock& block, PromptPort& prompt, QWidget* parent)
-    : QDialog(parent), block_(block), screen_(block, prompt) {
+    : QDialog(parent), screen_(block, prompt) {
   setObjectName("OrderEntry");
   setWindowTitle(COrderEntryDlg::kTitle);
   heading_ = new QLabel(this);
   heading_->setFont(QFont("Verdana", 14, QFont::Bold));
 
   ofsId_ = new QLineEdit(this);
-  quantity_ = new QLineEdit(this);
-  price_ = new QLineEdit(this);
+  quantity_ = new NumericEdit(NumericEdit::Kind::Digits, &prompt, this);
+  price_ = new NumericEdit(NumericEdit::Kind::Decimal, &prompt, this);
   orderType_ = new QComboBox(this);
   exchange_ = new QLineEdit(this);
   cutOff_ = new QCheckBox(entry_label::kCutOff, this);
   clientType_ = new QComboBox(this);
-  clientCode_ = new QLineEdit(this);
+  clientCode_ = new ClientSearchBox(block.services, this);
   clientCode_->setObjectName(COrderEntryDlg::kClientSearchName);
   clientSearch_ = new QPushButton("...", this);
   clientSearch_->setAutoDefault(false);
@@ -96,12 +98,20 @@ OrderEntryDialog::OrderEntryDialog(COFSControlBlock& block, PromptPort& prompt, 
   connect(cutOff_, &QCheckBox::clicked, this, [this](bool ticked) {
     if (!screen_.setCutOff(ticked)) fieldsChanged();
   });
-  connect(clientSearch_, &QPushButton::clicked, this, [this] { searchClients(); });
+  connect(clientSearch_, &QPushButton::clicked, this, [this] {
+    clientCode_->setFocus();
+    clientCode_->searchNow();
+  });
+  connect(clientCode_, &ClientSearchBox::clientChosen, this, [this](const QString& id) {
+    if (!screen_.setClientCode(id.toStdString())) fieldsChanged();
+  });
   connect(submit_, &QPushButton::clicked, this, [this] { screen_.submit(); });
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
 
   screen_.setListener(this);
   headingChanged();
+  setUpKeyboard(this);
+  followHostFonts(this, block.fontVariation);
 }
 
 void OrderEntryDialog::bindText(QLineEdit* edit,
@@ -117,20 +127,6 @@ void OrderEntryDialog::bindChoice(QComboBox* list,
   connect(list, &QComboBox::textActivated, this, [this, select](const QString& text) {
     if (!(screen_.*select)(text.toStdString())) choicesChanged();
   });
-}
-
-void OrderEntryDialog::searchClients() {
-  auto search = block_.services.getEnteredTextResults;
-  if (!search) return;
-  StringList results;
-  if (!search(clientCode_->text().toStdString(), results) || results.empty()) return;
-  QMenu menu(this);
-  for (const std::string& result : results)
-    menu.addAction(q(result), this, [this, result] {
-      clientCode_->setText(q(result));
-      if (!screen_.setClientCode(result)) fieldsChanged();
-    });
-  menu.exec(clientCode_->mapToGlobal(QPoint(0, clientCode_->height())));
 }
 
 void OrderEntryDialog::fieldsChanged() {

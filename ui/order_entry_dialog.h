@@ -13,6 +13,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class ClientSearchBox;
 
 class OrderEntryDialog : public QDialog, private OrderEntryListener {
   Q_OBJECT
@@ -30,10 +31,8 @@ class OrderEntryDialog : public QDialog, private OrderEntryListener {
   void headingChanged() override;
   void bindText(QLineEdit* edit, bool (COrderEntryDlg::*setter)(const std::string&));
   void bindChoice(QComboBox* list, bool (COrderEntryDlg::*select)(const std::string&));
-  void searchClients();
   void present();
 
-  COFSControlBlock& block_;
   COrderEntryDlg screen_;
   QLabel* heading_;
   QLineEdit* ofsId_;
@@ -43,7 +42,7 @@ class OrderEntryDialog : public QDialog, private OrderEntryListener {
   QLineEdit* exchange_;
   QCheckBox* cutOff_;
   QComboBox* clientType_;
-  QLineEdit* clientCode_;
+  ClientSearchBox* clientCode_;
   QPushButton* clientSearch_;
   QLineEdit* walkinClient_;
   QLineEdit* walkinParticipant_;

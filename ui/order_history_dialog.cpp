@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "plugin/control_block.h"
+#include "ui/dialog_keys.h"
 #include "ui/history_list_model.h"
 
 OrderHistoryDialog::OrderHistoryDialog(COFSControlBlock& block, QWidget* parent)
@@ -17,6 +18,7 @@ OrderHistoryDialog::OrderHistoryDialog(COFSControlBlock& block, QWidget* parent)
   model_ = new HistoryListModel(history_, this);
   table_ = new QTableView(this);
   table_->setObjectName("history");
+  table_->setAccessibleName("Order History");
   table_->setModel(model_);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -34,6 +36,7 @@ OrderHistoryDialog::OrderHistoryDialog(COFSControlBlock& block, QWidget* parent)
   layout->addWidget(new QLabel("OFSOrderNo:", this));
   layout->addWidget(table_, 1);
   layout->addLayout(makeDetails());
+  setUpKeyboard(this);
   resize(640, 480);
   history_.setListener(this);
   block_.onHistoryRow = [this](std::unique_ptr<sOFSOrderInfo> row) {

@@ -5,9 +5,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "ui/dialog_keys.h"
+#include "ui/numeric_edit.h"
 #include "ui/order_history_dialog.h"
 
 OrderNumberDialog::OrderNumberDialog(OrderHistoryDialog& history, QWidget* parent)
@@ -16,12 +17,12 @@ OrderNumberDialog::OrderNumberDialog(OrderHistoryDialog& history, QWidget* paren
       }) {
   setObjectName("OrderNumber");
   setWindowTitle("Order History");
-  number_ = new QLineEdit(this);
-  number_->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), number_));
+  number_ = new NumericEdit(NumericEdit::Kind::Digits, &history.prompt(), this);
   auto* label = new QLabel("Order Number:", this);
   label->setBuddy(number_);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   buttons->button(QDialogButtonBox::Ok)->setText("OK");
+  buttons->button(QDialogButtonBox::Ok)->setDefault(true);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* line = new QHBoxLayout;
@@ -30,6 +31,7 @@ OrderNumberDialog::OrderNumberDialog(OrderHistoryDialog& history, QWidget* paren
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(line);
   layout->addWidget(buttons);
+  setUpKeyboard(this);
 }
 
 void OrderNumberDialog::accept() {

@@ -2,19 +2,17 @@
 
 #include <dlfcn.h>
 
-#include <QApplication>
 #include <QColor>
-#include <QDialog>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPixmap>
-#include <QVariant>
 #include <ctime>
 #include <thread>
 #include <vector>
 
 #include "plugin/host_path.h"
 #include "plugin/plugin_identity.h"
+#include "ui/dialog_keys.h"
 #include "ui/list_memory.h"
 #include "ui/ofs_frame.h"
 #include "ui/order_book_widget.h"
@@ -109,18 +107,11 @@ void QtPlatform::createImageList() {
   }
 }
 
-void QtPlatform::reapplyFonts(int64_t fontStamp) {
+void QtPlatform::reapplyFonts(int64_t variation, int64_t fontStamp) {
   if (!frame_) return;
-  frame_->setFont(QApplication::font());
   // Dialogs are windows of their own, so the frame's font does not reach them: each open one
-  // takes the font and the stamp itself, in this order.
-  for (const char* name :
-       {"OrderEntry", "BulkUpload", "IssueDetails", "ModifyPrice", "MarketDepth"}) {
-    auto* dialog = frame_->findChild<QDialog*>(name);
-    if (!dialog) continue;
-    dialog->setFont(QApplication::font());
-    dialog->setProperty("fontStamp", QVariant::fromValue<qlonglong>(fontStamp));
-  }
+  // takes the font and the stamp itself.
+  reapplyWindowFonts(frame_, variation, fontStamp);
 }
 
 void QtPlatform::startDetached(std::function<void()> work) {

@@ -25,7 +25,7 @@ class QtPlatform : public PluginPlatform, public SymbolLookup {
   void destroyDialogWindows() override;
   void setRecoveryFiles(const std::string& userSettings, const std::string& dialogPos) override;
   void createImageList() override;
-  void reapplyFonts(int64_t fontStamp) override;
+  void reapplyFonts(int64_t variation, int64_t fontStamp) override;
   void startDetached(std::function<void()> work) override;
   int64_t now() const override;
 

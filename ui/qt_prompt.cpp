@@ -3,9 +3,10 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
-#include <QMessageBox>
 #include <QWidget>
 #include <vector>
+
+#include "ui/msg_box.h"
 
 QWidget* QtPrompt::parentWindow() const {
   if (QWidget* active = QApplication::activeModalWidget()) return active;
@@ -13,21 +14,18 @@ QWidget* QtPrompt::parentWindow() const {
 }
 
 void QtPrompt::message(const std::string& text) {
-  QMessageBox box(QMessageBox::NoIcon, QString(), QString::fromStdString(text), QMessageBox::Ok,
-                  parentWindow());
+  CMsgBox box(CMsgBox::Kind::Message, QString::fromStdString(text), parentWindow());
   box.exec();
 }
 
 void QtPrompt::titledMessage(const std::string& title, const std::string& text) {
-  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), QString::fromStdString(text),
-                  QMessageBox::Ok, parentWindow());
+  CMsgBox box(CMsgBox::Kind::Message, QString::fromStdString(text), parentWindow(),
+              QString::fromStdString(title));
   box.exec();
 }
 
 bool QtPrompt::question(const std::string& text) {
-  QMessageBox box(QMessageBox::Question, QString(), QString::fromStdString(text),
-                  QMessageBox::Yes | QMessageBox::No, parentWindow());
-  box.setDefaultButton(QMessageBox::Yes);
+  CMsgBox box(CMsgBox::Kind::Question, QString::fromStdString(text), parentWindow());
   return box.exec() == QMessageBox::Yes;
 }
 

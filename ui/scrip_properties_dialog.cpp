@@ -4,16 +4,20 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "ui/dialog_keys.h"
+
 ScripPropertiesDialog::ScripPropertiesDialog(QWidget* parent) : QDialog(parent) {
   setObjectName("ScripProperties");
   table_ = new QTableWidget(0, 2, this);
   table_->setObjectName("properties");
+  table_->setAccessibleName("Scrip Properties");
   table_->setHorizontalHeaderLabels({"Property", "Value"});
   table_->verticalHeader()->hide();
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->horizontalHeader()->setStretchLastSection(true);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(table_);
+  setUpKeyboard(this);
   resize(420, 560);
 }
 

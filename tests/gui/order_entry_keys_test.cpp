@@ -1,77 +1,104 @@
+// The order entry driven from the keyboard alone, with real key events.
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
 
-#include "plugin/control_block.h"
-#include "plugin/lifecycle.h"
-#include "tests/support/fake_host.h"
+#include "tests/support/order_entry_fixture.h"
+#include "ui/client_search_box.h"
 #include "ui/order_entry_dialog.h"
 
 namespace {
 
-class OrderEntryKeys : public testing::Test {
+// The name a screen reader announces: a field's own, a button's text. (Qt on Linux reads a
+// list's current entry as its name, so the interface's name proves nothing for lists.)
+QString nameOf(const QWidget* w) {
+  if (!w->accessibleName().isEmpty()) return w->accessibleName();
+  if (auto* b = qobject_cast<const QAbstractButton*>(w)) return b->text().remove('&');
+  return {};
+}
+
+class OrderEntryKeys : public OrderEntryFixture {
  protected:
   OrderEntryKeys() {
-    host.clock = localTime(21, 11, 2026, 36000);
-    host.state.userDirectory = getenv("XDG_DATA_HOME");
-    initPlugin(host, host.app(), "U1", 3);
-    issue.issueId = "N1";
-    issue.exchange = "nse_ipo";
-    issue.symbol = "ABC-RS";
-    issue.field63059 = std::string(1, 'Y');  // gcc 12 -O3 misreads a literal assignment
-    dialog = std::make_unique<OrderEntryDialog>(*controlBlock(), prompt);
-    dialog->openNewBid(issue);
+    host.state.accounts = {"A1", "A2"};
+    host.state.searchList = {"A1", "A2"};
+    start();
+    view = std::make_unique<OrderEntryDialog>(block(), prompt());
+    view->openNewBid(addIssue(nseIssue()));
+    QApplication::setActiveWindow(view.get());
   }
-  ~OrderEntryKeys() override {
-    dialog.reset();
-    exitPlugin(host);
-  }
-  void key(int code) {
-    QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier);
-    QApplication::sendEvent(dialog.get(), &press);
-  }
-  QLineEdit* field(const char* label) {
-    for (QLabel* l : dialog->findChildren<QLabel*>())
-      if (l->text() == label) return qobject_cast<QLineEdit*>(l->buddy());
-    return nullptr;
-  }
+  ~OrderEntryKeys() override { view.reset(); }
 
-  FakeHost host;
-  RecordingPrompt prompt;
-  sOFSCol issue;
-  std::unique_ptr<OrderEntryDialog> dialog;
+  QWidget* focused() const { return QApplication::focusWidget(); }
+  QString focusedName() const { return focused() ? focused()->accessibleName() : QString(); }
+  void type(const char* text) { QTest::keyClicks(focused(), text); }
+  void key(Qt::Key k) { QTest::keyClick(focused(), k); }
+  ClientSearchBox* clientCode() const { return view->findChild<ClientSearchBox*>(); }
+
+  std::unique_ptr<OrderEntryDialog> view;
 };
 
-TEST_F(OrderEntryKeys, EnterSubmitsAndARefusalKeepsWhatWasTyped) {
-  ASSERT_TRUE(dialog->isVisible());
-  EXPECT_EQ(dialog->property("heading").toString(), "Place OFS Order 3.14.7");
-  QLineEdit* price = field("Price");
-  ASSERT_NE(price, nullptr);
-  price->setText("101");
-  emit price->textEdited("101");
+TEST_F(OrderEntryKeys, TabFollowsTheFieldsAsTheyReadAndPassesReadOnlyOnes) {
+  // The walk-in fields are hidden, the category is for BSE and the participant code list is
+  // disabled for a retail series.
+  const char* const order[] = {"Price",       "CutOff", "Order Type", "Pro/Cli",
+                               "Client Code", "...",    "Margin",     "Submit"};
+  ASSERT_EQ(focusedName(), "Quantity");
+  for (const char* name : order) {
+    key(Qt::Key_Tab);
+    EXPECT_EQ(nameOf(focused()), name);
+  }
+}
+
+TEST_F(OrderEntryKeys, ABidPlacedWithTheKeyboardAloneIsSent) {
+  type("100");
+  key(Qt::Key_Tab);
+  type("150");
+  while (focused() != clientCode()) key(Qt::Key_Tab);
+  type("A");
+  QTRY_VERIFY(clientCode()->resultsShown());
+  key(Qt::Key_Escape);  // closes the results, not the window
+  EXPECT_TRUE(view->isVisible() && !clientCode()->resultsShown());
+  key(Qt::Key_2);  // typing on searches again
+  key(Qt::Key_Backspace);
+  QTRY_VERIFY(clientCode()->resultsShown());
+  EXPECT_EQ(clientCode()->results()->count(), 2);
+  key(Qt::Key_Down);
+  key(Qt::Key_Return);  // takes the result, the window stays
+  EXPECT_FALSE(clientCode()->resultsShown());
+  EXPECT_EQ(clientCode()->text(), "A2");
+  EXPECT_TRUE(sends().empty());
+  key(Qt::Key_Return);  // the default button: Submit
+  EXPECT_EQ(prompt().messages(), Lines{});
+  ASSERT_EQ(sends().size(), 1u);
+  for (const char* field : {"om_put_order_ofs", "54001=\"A2\"", "12004=\"100\""})
+    EXPECT_NE(sends()[0].find(field), std::string::npos) << field << " in " << sends()[0];
+}
+
+TEST_F(OrderEntryKeys, TheClientBaseAnswersWhenTheListHasNoneAndWithoutEitherTypingWorks) {
+  HostServiceTable& services = block().services;
+  services.getEnteredTextResults = [](const std::string&, StringList& out) {
+    return out.clear(), 1;
+  };
+  services.getEnteredTextResultsFromClientsDb = [](const std::string&, StringList& out) {
+    return out = {"C9 - Nine"}, 1;
+  };
+  while (focused() != clientCode()) key(Qt::Key_Tab);
+  type("C");
+  QTRY_VERIFY(clientCode()->resultsShown());
   key(Qt::Key_Return);
-  EXPECT_EQ(prompt.messages(), (Lines{"Please enter Quantity"}));
-  EXPECT_EQ(prompt.focused(), (Lines{"Quantity"}));
-  EXPECT_EQ(price->text(), "101");
-}
-
-TEST_F(OrderEntryKeys, ATypedCharacterTheFieldRefusesIsPutBack) {
-  QLineEdit* quantity = field("Quantity");
-  ASSERT_NE(quantity, nullptr);
-  quantity->setText("12");
-  emit quantity->textEdited("12");
-  quantity->setText("12x");
-  emit quantity->textEdited("12x");
-  EXPECT_EQ(quantity->text(), "12");
-}
-
-TEST_F(OrderEntryKeys, EscapeClosesTheWindow) {
-  key(Qt::Key_Escape);
-  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(clientCode()->text(), "C9");  // the id without the name
+  services.getEnteredTextResults = nullptr;
+  services.getEnteredTextResultsFromClientsDb = nullptr;
+  type("1");
+  QTest::qWait(20);
+  EXPECT_FALSE(clientCode()->resultsShown());
+  EXPECT_EQ(clientCode()->text(), "C91");
 }
 
 }  // namespace

@@ -157,11 +157,11 @@ TEST_F(Lifecycle, ActiveClientIsRememberedOnlyWhileRunning) {
 
 TEST_F(Lifecycle, FontPreferenceRefreshesTheVariationAndReappliesFonts) {
   applyFontPreference(nullptr, nullptr);  // before init: nothing
-  EXPECT_EQ(host.fontReapplies, 0);
+  EXPECT_TRUE(host.fontsReapplied.empty());
   init();
   applyFontPreference(nullptr, nullptr);
-  EXPECT_EQ(host.fontReapplies, 1);
   EXPECT_EQ(controlBlock()->fontVariation, (std::array<int64_t, 2>{7, 9}));
+  EXPECT_EQ(host.fontsReapplied, (std::vector<std::array<int64_t, 2>>{{7, 9}}));
 }
 
 TEST(HostServiceBinding, BindsByExactNamesInTableOrderAndLeaves24Null) {

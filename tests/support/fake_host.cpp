@@ -70,6 +70,13 @@ int fontVariation(int64_t* a, int64_t* b) {
   *b = 9;
   return 1;
 }
+int searchList(const std::string&, StringList& out) {
+  out = st().searchList;
+  return 1;
+}
+int searchDelay() {
+  return 0;
+}
 int userDirectory(std::string& dir) {
   dir = st().userDirectory;
   return dir.empty() ? 0 : 1;
@@ -99,6 +106,8 @@ const std::map<std::string, void*>& exported() {
       {"pu_get_AssignedClients", reinterpret_cast<void*>(assigned)},
       {"pu_get_FontVariation", reinterpret_cast<void*>(fontVariation)},
       {"pu_get_UserDirectory", reinterpret_cast<void*>(userDirectory)},
+      {"pu_get_client_search_time", reinterpret_cast<void*>(searchDelay)},
+      {"pu_get_entered_text_results", reinterpret_cast<void*>(searchList)},
       {"pu_show_message_box", reinterpret_cast<void*>(hostBox)},
       {"pu_get_all_mappedAccount_ids", reinterpret_cast<void*>(mappedAccounts)},
   };

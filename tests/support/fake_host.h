@@ -3,6 +3,7 @@
 // the plug-in's document when asked. One FakeHost at a time.
 #pragma once
 
+#include <array>
 #include <map>
 #include <memory>
 #include <set>
@@ -26,6 +27,8 @@ struct FakeHostState {
   bool clientOverview = false;
   std::vector<std::string> assignedClients;
   std::string userDirectory;
+  // What the client search finds, whatever was typed, after no delay.
+  std::vector<std::string> searchList;
   int uuidCounter = 0;
 
   // What the plug-in did to the host, in order: send/subscribe lines of the receive controls,
@@ -45,7 +48,7 @@ class FakeHost : public PluginPlatform, public SymbolLookup {
   bool frameOpen = false;
   std::unique_ptr<CWatchView> view;  // what the document's frame would hold
   int layoutSaves = 0;
-  int fontReapplies = 0;
+  std::vector<std::array<int64_t, 2>> fontsReapplied;  // variation and stamp
 
   // SymbolLookup
   void* find(const char* name) const override;
@@ -59,7 +62,9 @@ class FakeHost : public PluginPlatform, public SymbolLookup {
   void destroyDialogWindows() override {}
   void setRecoveryFiles(const std::string& userSettings, const std::string& dialogPos) override;
   void createImageList() override {}
-  void reapplyFonts(int64_t) override { ++fontReapplies; }
+  void reapplyFonts(int64_t variation, int64_t stamp) override {
+    fontsReapplied.push_back({variation, stamp});
+  }
   void startDetached(std::function<void()> work) override { work(); }
   int64_t now() const override { return clock; }
 
