@@ -97,7 +97,7 @@ QTableView* OrderBookWidget::makeList(const char* name, QSortFilterProxyModel* m
   list->setSelectionMode(QAbstractItemView::ExtendedSelection);
   list->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list->verticalHeader()->hide();
-  list->verticalHeader()->setDefaultSectionSize(20);
+  list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 6);
   list->horizontalHeader()->setSectionsMovable(true);
   list->setContextMenuPolicy(Qt::CustomContextMenu);
   restoreOrFitColumns(list, settingsName(list));

@@ -67,6 +67,7 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
     list->verticalHeader()->hide();
     list->setContextMenuPolicy(Qt::CustomContextMenu);
     list->setAlternatingRowColors(true);
+    list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 6);
     list->horizontalHeader()->setSectionsMovable(true);
     restoreOrFitColumns(list, CWatchView::kListSettingsNames[i]);
     // Right clicks on the header never reach this signal, so the header shows no menu.

@@ -5,11 +5,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QDir>
 #include <QImage>
 #include <QMessageBox>
-#include <QSet>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTimer>
@@ -20,6 +18,7 @@
 #include "plugin/control_block.h"
 #include "plugin/lifecycle.h"
 #include "tests/support/fake_host.h"
+#include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
 #include "tests/support/scratch_dir.h"
 #include "ui/basket_dialog.h"
@@ -71,6 +70,7 @@ void shoot(QWidget* screen, const QString& dir, const QString& name, const QStri
   screen->raise();
   settle();
   const QImage image = screen->grab().toImage();
+  if (screen->isWindow() && screen->parentWidget()) screen->hide();
   const QString path = dir + "/" + name + "-" + variation + ".png";
   image.save(path);
   const std::string wrong = whatIsWrong(image);
@@ -79,73 +79,38 @@ void shoot(QWidget* screen, const QString& dir, const QString& name, const QStri
   if (!wrong.empty()) ++failures;
 }
 
-void reply(const FieldList& fields) {
-  controlBlock()->OnResponse(makeMessage(fields).get());
+void deliver(bool live, const std::string& fields) {
+  const auto message = makeMessage(fieldsOf(fields));
+  live ? controlBlock()->OnLiveUpdate(message.get()) : controlBlock()->OnResponse(message.get());
 }
 
-void update(const FieldList& fields) {
-  controlBlock()->OnLiveUpdate(makeMessage(fields).get());
-}
-
-void issue(const char* id, const char* exchange, const char* symbol, const char* series,
-           const char* open, const char* close, const char* floor, const char* name) {
-  reply({{32767, "om_get_ofs_issues"},
-         {63032, id},
-         {63001, exchange},
-         {3, symbol},
-         {10610, series},
-         {10100, std::string(symbol) + "-" + series},
-         {49165, open},
-         {79, close},
-         {63022, floor},
-         {54079, "110.00"},
-         {55, "10"},
-         {10062, "5000000"},
-         {10027, "5"},
-         {63005, "0.05"},
-         {63059, "Y"},
-         {49033, name},
-         {54730, symbol},
-         {63023, "120.00"},
-         {54803, "105.50"},
-         {54571, "Y"},
-         {61362, "Y"},
-         {54009, "200000"}});
-}
-
-void order(const char* number, const char* issueId, const char* client, const char* quantity,
-           const char* paise, const char* status, const char* cfStatus = "Active") {
-  const bool market = std::string(paise) == "MKT";
-  update({{64001, number},
-          {49238, std::string("10000") + number},
-          {63100, issueId},
-          {54001, client},
-          {12004, quantity},
-          {10306, paise},
-          {12008, market ? "MKT" : "L"},
-          {64655, status},
-          {63001, "nse_ipo"},
-          {10100, "ABC-RS"},
-          {64170, "100% Margin"},
-          {10355, cfStatus},
-          {54056, "C"},
-          {31003, "U1"}});
-}
-
+// Today is 21/11/2026: two current issues, one forthcoming, one past.
 void fillBook() {
-  issue("101", "nse_ipo", "ABC", "RS", "19/11/2026", "24/11/2026", "100.00", "ABC Industries Ltd");
-  issue("102", "nse_ipo", "ABC", "IS", "21/11/2026", "21/11/2026", "100.00", "ABC Industries Ltd");
-  issue("201", "nse_ipo", "PQR", "RS", "25/11/2026", "27/11/2026", "75.00", "PQR Foods Ltd");
-  issue("301", "nse_ipo", "DEF", "RS", "10/11/2026", "12/11/2026", "40.00", "DEF Metals Ltd");
-  reply({{32767, "om_get_ofs_issues"}, {32766, ""}});
-  order("1001", "101", "A1", "50", "10150", "cancelled");
-  order("1002", "101", "A1", "100", "10200", "open");
-  order("1003", "101", "A2", "20", "MKT", "open");
-  order("1004", "101", "A2", "30", "10400", "open pending");
-  order("1005", "101", "A1", "15", "10050", "rejected");
-  order("1006", "101", "A2", "40", "10250", "open", "Inactive");
-  order("1007", "101", "A1", "25", "10325", "complete");
-  order("1008", "101", "A2", "1200", "10100", "open");
+  const char* issues[] = {
+      "63032=101 3=ABC 10610=RS 10100=ABC-RS 49165=19/11/2026 79=24/11/2026 63022=100.00 49033=ABC "
+      "Industries Ltd",
+      "63032=102 3=ABC 10610=IS 10100=ABC-IS 49165=21/11/2026 79=21/11/2026 63022=100.00 49033=ABC "
+      "Industries Ltd",
+      "63032=201 3=PQR 10610=RS 10100=PQR-RS 49165=25/11/2026 79=27/11/2026 63022=75.00 49033=PQR "
+      "Foods Ltd",
+      "63032=301 3=DEF 10610=RS 10100=DEF-RS 49165=10/11/2026 79=12/11/2026 63022=40.00 49033=DEF "
+      "Metals Ltd"};
+  for (const char* issue : issues)
+    deliver(false, std::string("32767=om_get_ofs_issues 63001=nse_ipo ") + issue +
+                       " 54079=110.00 55=10 10062=5000000 10027=5 63005=0.05 63059=Y 63023=120.00 "
+                       "54803=105.50 54571=Y 61362=Y 54009=200000");
+  deliver(false, "32767=om_get_ofs_issues 32766=");
+  const char* orders[] = {
+      "64001=1001 54001=A1 12004=50 10306=10150 12008=L 64655=cancelled",
+      "64001=1002 54001=A1 12004=100 10306=10200 12008=L 64655=open",
+      "64001=1003 54001=A2 12004=20 10306=MKT 12008=MKT 64655=open",
+      "64001=1004 54001=A2 12004=30 10306=10400 12008=L 64655=open pending",
+      "64001=1005 54001=A1 12004=15 10306=10050 12008=L 64655=rejected",
+      "64001=1006 54001=A2 12004=40 10306=10250 12008=L 64655=open 10355=Inactive",
+      "64001=1007 54001=A1 12004=25 10306=10325 12008=L 64655=complete",
+      "64001=1008 54001=A2 12004=1200 10306=10100 12008=L 64655=open"};
+  for (const char* order : orders)
+    deliver(true, std::string(order) + " 63100=101 63001=nse_ipo 10100=ABC-RS 54056=C 31003=U1");
 }
 
 template <typename Screen>
@@ -182,22 +147,14 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
   tabs->setCurrentIndex(0);
   watch->selectRows("current", {"101"});
 
-  const struct {
-    int command;
-    const char* name;
-  } fromWatch[] = {
-      {4, "order-entry"}, {7, "scrip-properties"}, {8, "market-depth"}, {10, "issue-dialog"}};
-  for (const auto& screen : fromWatch) {
-    watch->runCommand(screen.command);
-    settle();
-    QWidget* shown = nullptr;
-    if (screen.command == 4) shown = opened<OrderEntryDialog>(watch);
-    if (screen.command == 7) shown = opened<ScripPropertiesDialog>(watch);
-    if (screen.command == 8) shown = opened<MarketDepthDialog>(watch);
-    if (screen.command == 10) shown = opened<IssueDetailsDialog>(watch);
-    shoot(shown, dir, screen.name, variation);
-    if (shown) shown->hide();
-  }
+  watch->runCommand(4);
+  shoot(opened<OrderEntryDialog>(watch), dir, "order-entry", variation);
+  watch->runCommand(7);
+  shoot(opened<ScripPropertiesDialog>(watch), dir, "scrip-properties", variation);
+  watch->runCommand(8);
+  shoot(opened<MarketDepthDialog>(watch), dir, "market-depth", variation);
+  watch->runCommand(10);
+  shoot(opened<IssueDetailsDialog>(watch), dir, "issue-dialog", variation);
 
   watch->runCommand(6);
   auto* basket = opened<BasketDialog>(watch);
@@ -206,7 +163,6 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
     if (QAbstractButton* browse = button(basket, "Browse")) browse->click();
   }
   shoot(basket, dir, "basket", variation);
-  if (basket) basket->hide();
 
   watch->selectRows("current", {"102"});  // the sample bid file's issue
   watch->runCommand(9);
@@ -222,7 +178,6 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
     if (QAbstractButton* browse = button(bulk, "Browse")) browse->click();
   }
   shoot(bulk, dir, "bulk-upload", variation);
-  if (bulk) bulk->hide();
 
   frame.showOrderBook();
   settle();
@@ -236,28 +191,21 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
                                  QItemSelectionModel::Select | QItemSelectionModel::Rows);
   if (QAction* bulkModify = bookCommand(book, "Bulk Modify Order")) bulkModify->trigger();
   settle();
-  auto* modifyPrice = opened<ModifyPriceDialog>(book);
-  shoot(modifyPrice, dir, "modify-price", variation);
-  if (modifyPrice) modifyPrice->hide();
+  shoot(opened<ModifyPriceDialog>(book), dir, "modify-price", variation);
 
   open->selectRow(0);
   if (QAction* history = bookCommand(book, "OFS Order History")) history->trigger();
   settle();
-  const char* steps[][3] = {
-      {"open pending", "10200", "100"}, {"open", "10200", "100"}, {"modified", "10300", "120"}};
-  for (const auto& step : steps) {
+  for (const char* status : {"open pending", "open", "modified"}) {
     auto row = std::make_unique<sOFSOrderInfo>();
-    row->status = step[0];
-    row->price = step[1];
-    row->quantity = step[2];
-    row->field49238 = "100001008";
+    row->status = status;
+    row->price = "10200";
+    row->quantity = "100";
     row->timeText = "21Nov2026 09:15:00";
     if (controlBlock()->onHistoryRow) controlBlock()->onHistoryRow(std::move(row));
   }
   if (controlBlock()->onHistoryEnd) controlBlock()->onHistoryEnd();
-  auto* history = opened<OrderHistoryDialog>(book);
-  shoot(history, dir, "order-history", variation);
-  if (history) history->hide();
+  shoot(opened<OrderHistoryDialog>(book), dir, "order-history", variation);
 
   frame.watchView()->destroyDialogs();
   frame.orderBook()->destroyDialogs();
@@ -291,13 +239,9 @@ int main(int argc, char** argv) {
   boxCloser.start(50);
 
   const QFont regular = QApplication::font();
-  const struct {
-    const char* name;
-    double scale;
-  } variations[] = {{"regular", 1.0}, {"large", 1.4}};
-  for (const auto& variation : variations) {
+  for (const auto& [variation, scale] : {std::pair{"regular", 1.0}, std::pair{"large", 1.4}}) {
     QFont font = regular;
-    font.setPointSizeF(regular.pointSizeF() * variation.scale);
+    font.setPointSizeF(regular.pointSizeF() * scale);
     QApplication::setFont(font);
     FakeHost host;
     host.clock = localTime(21, 11, 2026, 36000);
@@ -307,7 +251,7 @@ int main(int argc, char** argv) {
     host.state.pcodes = {{"A1", "PC1"}, {"PC1", "PC1"}};
     host.state.peer1 = "TM1";
     initPlugin(host, host.app(), "U1", 3);
-    drawEverything(dir, variation.name, host, samples);
+    drawEverything(dir, variation, host, samples);
     exitPlugin(host);
   }
   std::printf("%d picture(s) failed\n", failures);
