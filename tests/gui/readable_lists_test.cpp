@@ -14,6 +14,7 @@
 #include "plugin/lifecycle.h"
 #include "plugin/settings_paths.h"
 #include "tests/support/fake_host.h"
+#include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
 #include "ui/list_memory.h"
 #include "ui/ofs_frame.h"
@@ -51,20 +52,11 @@ class Lists : public testing::Test {
     frame->showOrderBook();
     settle();
   }
-  void order(const char* number, const char* client, const char* quantity, const char* paise,
-             const char* status, const char* cfStatus = "Active") {
-    const bool market = std::string(paise) == "MKT";
-    controlBlock()->OnLiveUpdate(makeMessage({{64001, number},
-                                              {63100, "101"},
-                                              {54001, client},
-                                              {12004, quantity},
-                                              {10306, paise},
-                                              {12008, market ? "MKT" : "L"},
-                                              {64655, status},
-                                              {63001, "nse_ipo"},
-                                              {10100, "ABC-RS"},
-                                              {10355, cfStatus}})
-                                     .get());
+  // "64001=1 54001=A1 12004=10 10306=10150 64655=open" and the fields every order shares.
+  void order(const std::string& fields) {
+    const auto message =
+        makeMessage(fieldsOf(fields + " 63100=101 63001=nse_ipo 10100=ABC-RS 54056=C 31003=U1"));
+    controlBlock()->OnLiveUpdate(message.get());
     settle();
   }
   QTableView* list(const char* name) { return frame->findChild<QTableView*>(name); }
@@ -78,57 +70,40 @@ class Lists : public testing::Test {
 };
 
 TEST_F(Lists, OrderLinesAlignNumbersRightTintByStatusAndDimFrozenOrders) {
-  order("1", "A1", "10", "10150", "open");
-  order("2", "A1", "10", "10150", "open pending");
-  order("3", "A1", "10", "10150", "open", "Inactive");
-  order("4", "A1", "10", "10150", "rejected");
-  order("5", "A1", "10", "10150", "cancelled");
-  order("6", "A1", "10", "10150", "complete");
-  const QAbstractItemModel* open = list("open")->model();
-  const QAbstractItemModel* done = list("completed")->model();
-  ASSERT_EQ(open->rowCount(), 3);
-  ASSERT_EQ(done->rowCount(), 3);
-
-  const struct {
-    const char* column;
-    int index;
-    bool right;
-  } columns[] = {{"OFS Order Number", 0, true}, {"Issue ID", 2, false},
-                 {"Quantity", 3, true},         {"Price", 4, true},
-                 {"Status", 5, false},          {"Client Id", 9, false},
-                 {"Allotted Price", 20, true}};
-  for (const auto& c : columns) {
-    ASSERT_EQ(open->headerData(c.index, Qt::Horizontal).toString(), c.column);
-    const auto cell = open->index(0, c.index).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-    const auto head =
-        open->headerData(c.index, Qt::Horizontal, Qt::TextAlignmentRole).value<Qt::Alignment>();
-    EXPECT_EQ(bool(cell & Qt::AlignRight), c.right) << c.column;
-    EXPECT_EQ(head, cell) << c.column;
-  }
-
-  // Newest on top: open 3, 2, 1; completed 6, 5, 4.
+  // One order through every status: each leaves a tint of its own on the line.
   QSet<QRgb> tints;
-  for (const QAbstractItemModel* model : {open, done})
-    for (int row = 0; row < 3; ++row)
-      tints << model->index(row, 5).data(Qt::BackgroundRole).value<QColor>().rgb();
-  EXPECT_EQ(tints.size(), 5) << "open, open pending, rejected, cancelled, complete";
-  EXPECT_EQ(open->index(0, 1).data(Qt::BackgroundRole), open->index(2, 1).data(Qt::BackgroundRole));
+  for (const char* status : {"open", "open pending", "rejected", "cancelled", "complete"}) {
+    order(std::string("64001=1 54001=A1 12004=10 10306=10150 64655=") + status);
+    const QAbstractItemModel* shown = list(*status == 'o' ? "open" : "completed")->model();
+    tints << shown->index(0, 5).data(Qt::BackgroundRole).value<QColor>().rgb();
+  }
+  EXPECT_EQ(tints.size(), 5);
 
-  EXPECT_TRUE(open->index(0, 0).data(Qt::ForegroundRole).isValid()) << "inactive carry-forward";
-  EXPECT_FALSE(open->index(2, 0).data(Qt::ForegroundRole).isValid());
+  order("64001=2 54001=A1 12004=10 10306=10150 64655=open 10355=Inactive");
+  order("64001=3 54001=A1 12004=10 10306=10150 64655=open");
+  const QAbstractItemModel* open = list("open")->model();
+  EXPECT_TRUE(open->index(1, 0).data(Qt::ForegroundRole).isValid()) << "inactive carry-forward";
+  EXPECT_FALSE(open->index(0, 0).data(Qt::ForegroundRole).isValid());
+  // OFS Order Number, Issue ID, Quantity, Price, Status, Allotted Price.
+  for (const auto& [column, right] :
+       {std::pair{0, true}, {2, false}, {3, true}, {4, true}, {5, false}, {20, true}}) {
+    const QVariant cell = open->index(0, column).data(Qt::TextAlignmentRole);
+    EXPECT_EQ(bool(cell.value<Qt::Alignment>() & Qt::AlignRight), right) << column;
+    EXPECT_EQ(open->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole), cell) << column;
+  }
 }
 
 TEST_F(Lists, TotalsFollowLiveUpdatesAndTheActiveClient) {
   EXPECT_EQ(totals("open"), "Orders: 0   Quantity: 0   Amount: Rs 0.00");
-  order("1", "A1", "100", "10200", "open");
-  order("2", "A2", "20", "MKT", "open");
+  order("64001=1 54001=A1 12004=100 10306=10200 64655=open");
+  order("64001=2 54001=A2 12004=20 10306=MKT 12008=MKT 64655=open");
   EXPECT_EQ(totals("open"),
             "Orders: 2   Quantity: 120   Amount: Rs 10,200.00   (1 MKT order not in amount)");
-  order("1", "A1", "100", "10200", "cancelled");
+  order("64001=1 54001=A1 12004=100 10306=10200 64655=cancelled");
   EXPECT_EQ(totals("open"),
             "Orders: 1   Quantity: 20   Amount: Rs 0.00   (1 MKT order not in amount)");
   EXPECT_EQ(totals("completed"), "Orders: 1   Quantity: 100   Amount: Rs 10,200.00");
-  order("3", "A1", "5", "10000", "open");
+  order("64001=3 54001=A1 12004=5 10306=10000 64655=open");
   frame->orderBook()->filterToClient("A1");
   settle();
   EXPECT_EQ(totals("open"), "Orders: 1   Quantity: 5   Amount: Rs 500.00");
