@@ -6,13 +6,22 @@
 #   x-display.sh run DIR PROG...  runs PROG on that display, or on Qt's offscreen platform when
 #                                 no Xvfb of this run is alive (also at test discovery)
 set -euo pipefail
+# Stops the Xvfb named in DIR/pid: only when that process is still an Xvfb.
+stop_server() {
+  local pid
+  pid="$(cat "$1/pid" 2>/dev/null || true)"
+  if [ -n "$pid" ] && [ "$(cat "/proc/$pid/comm" 2>/dev/null || true)" = Xvfb ]; then
+    kill "$pid"
+  fi
+  rm -f "$1/display" "$1/pid" "$1/display.new"
+}
 command="$1"
 dir="$2"
 shift 2
 case "$command" in
   start)
     mkdir -p "$dir"
-    rm -f "$dir/display" "$dir/pid"
+    stop_server "$dir"  # one left over from a run that was cut short
     if ! command -v Xvfb >/dev/null; then
       echo "Xvfb not found: the gui tests fall back to Qt's offscreen platform"
       exit 0
@@ -34,12 +43,16 @@ case "$command" in
     exit 1
     ;;
   stop)
-    if [ -s "$dir/pid" ]; then kill "$(cat "$dir/pid")" 2>/dev/null || true; fi
-    rm -f "$dir/display" "$dir/pid" "$dir/display.new"
+    stop_server "$dir"
     ;;
   run)
-    if [ -s "$dir/display" ] && [ -s "$dir/pid" ] && kill -0 "$(cat "$dir/pid")" 2>/dev/null; then
+    # A run cut short leaves its files behind: the server must still be alive and listening.
+    if [ -s "$dir/display" ] && [ -s "$dir/pid" ] && kill -0 "$(cat "$dir/pid")" 2>/dev/null &&
+      [ -S "/tmp/.X11-unix/X$(cat "$dir/display")" ]; then
       export DISPLAY=":$(cat "$dir/display")" QT_QPA_PLATFORM=xcb
+      # The leak checker of a sanitizer build: the X platform's system libraries hold on to
+      # memory until the process ends.
+      export LSAN_OPTIONS="suppressions=$(dirname "$(readlink -f "$0")")/x-display.supp${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
     else
       export QT_QPA_PLATFORM=offscreen
     fi
