@@ -8,6 +8,7 @@
 
 #include "orderbook/order_book.h"
 
+class BookList;
 class COFSControlBlock;
 class ModifyPriceDialog;
 class OrderHistoryDialog;
@@ -34,7 +35,7 @@ class OrderBookWidget : public QWidget, private OrderBookLauncher {
  private:
   QTableView* makeList(const char* name, QSortFilterProxyModel* model);
   // The summary line under `list`, following its lines as they come and go.
-  QLabel* makeTotals(QTableView* list);
+  QLabel* makeTotals(QTableView* list, const BookList& orders);
   void addCommands();
   void runCommand(OrderBookCommand::Id command);
   void showContextMenu(QTableView* list, const QPoint& at);
