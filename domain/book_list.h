@@ -37,6 +37,12 @@ class BookList {
   sOFSOrderInfo* rowAt(size_t row) const;
   std::optional<size_t> rowOf(const sOFSOrderInfo* order) const;
   bool contains(const sOFSOrderInfo* order) const { return slotOf(order).has_value(); }
+  // Every listed order, in no particular order, at a pointer's cost each: for sums over a list.
+  template <typename Visit>
+  void forEachOrder(Visit&& visit) const {
+    for (const sOFSOrderInfo* order : slots_)
+      if (order) visit(*order);
+  }
 
   // Puts a record that is not yet listed on a new top line.
   void insertTop(sOFSOrderInfo* order);

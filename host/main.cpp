@@ -79,6 +79,7 @@ int main(int argc, char** argv) {
   qtArgv.push_back(nullptr);
   int qtArgc = static_cast<int>(qtArgv.size()) - 1;
   QApplication app(qtArgc, qtArgv.data());
+  QApplication::setApplicationDisplayName("VornTrader");
 
   hostState().usersRoot =
       usersRoot(options.home, std::getenv("XDG_DATA_HOME"), std::getenv("HOME"));
@@ -100,6 +101,7 @@ int main(int argc, char** argv) {
   rxControls().setBackend(backend.get());
 
   MainWindow window;
+  window.setBackendName(QString::fromStdString(backendName));
   std::vector<HotkeyRegistration> hotkeys;
   hostState().onLog = [&](const std::string& line) {
     transcript().line("log " + otpx::quote(line));
@@ -109,7 +111,8 @@ int main(int argc, char** argv) {
     if (options.headless) {
       transcript().line("msgbox " + otpx::quote(text));
     } else {
-      QMessageBox::information(&window, "VornTrader", QString::fromStdString(text));
+      QMessageBox::information(&window, QApplication::applicationDisplayName(),
+                               QString::fromStdString(text));
     }
   };
   hostState().onHotkey = [&](void* view, const std::string& caption, int number,

@@ -1,5 +1,6 @@
-// The terminal's main window: a document area for plug-in frames and a tabbed log. It is
-// also the host application object handed to plug-ins.
+// The terminal's main window: a document area for plug-in frames, a tabbed log and a status
+// bar with the session (clock, back end, user). It is also the host application object handed
+// to plug-ins.
 #pragma once
 
 #include <QMainWindow>
@@ -7,6 +8,7 @@
 
 #include "sdk/host_app.h"
 
+class QLabel;
 class QMdiArea;
 class QPlainTextEdit;
 class QTabWidget;
@@ -28,10 +30,17 @@ class MainWindow : public QMainWindow, public IVornHostApp, public IVornMainWind
   void appendLog(const QString& line);
   // Binds a registered shortcut's key to the window that registered it.
   void bindHotkey(QObject* view, int number, const QString& key);
+  // "sim", "none", or the name of a back end that connects somewhere.
+  void setBackendName(const QString& name);
 
  private:
   QMdiArea* area_;
   QTabWidget* logTabs_;
   QPlainTextEdit* log_;
+  QLabel* clock_;
+  QLabel* backend_;
+  QLabel* user_;
+  // The clock and the user may change under a running session (`host` lines): read every tick.
+  void showSession();
   std::vector<IVornDocTemplate*> templates_;
 };

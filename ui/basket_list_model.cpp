@@ -1,6 +1,7 @@
 #include "ui/basket_list_model.h"
 
 #include "basket/basket_file.h"
+#include "ui/list_look.h"
 
 int BasketListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(screen_.rowCount());
@@ -15,6 +16,8 @@ QVariant BasketListModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<size_t>(index.row());
   if (role == Qt::CheckStateRole && index.column() == 0)
     return screen_.ticked(row) ? Qt::Checked : Qt::Unchecked;
+  if (role == Qt::TextAlignmentRole)
+    return columnAlignment(basketColumns()[static_cast<size_t>(index.column())]);
   if (role != Qt::DisplayRole) return {};
   return QString::fromStdString(basketColumnText(screen_.row(row), index.column()));
 }
@@ -32,8 +35,10 @@ Qt::ItemFlags BasketListModel::flags(const QModelIndex& index) const {
 }
 
 QVariant BasketListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return QString(basketColumns()[static_cast<size_t>(section)]);
+  if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+  const char* title = basketColumns()[static_cast<size_t>(section)];
+  if (role == Qt::TextAlignmentRole) return columnAlignment(title);
+  return role == Qt::DisplayRole ? QVariant(QString(title)) : QVariant();
 }
 
 void BasketListModel::refresh() {

@@ -1,11 +1,17 @@
 #include "ui/book_list_model.h"
 
+#include <QFont>
+
 #include "orderbook/order_book_columns.h"
+#include "ui/list_look.h"
 
 BookListModel::BookListModel(BookList& list,
                              std::function<std::string(const std::string&)> clientName,
-                             QObject* parent)
-    : QAbstractTableModel(parent), list_(list), clientName_(std::move(clientName)) {
+                             std::function<bool(const sOFSOrderInfo&)> refused, QObject* parent)
+    : QAbstractTableModel(parent),
+      list_(list),
+      clientName_(std::move(clientName)),
+      refused_(std::move(refused)) {
   list_.setListener(this);
 }
 
@@ -22,17 +28,37 @@ int BookListModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant BookListModel::data(const QModelIndex& index, int role) const {
-  if (role != Qt::DisplayRole || !index.isValid()) return {};
+  if (!index.isValid()) return {};
   const sOFSOrderInfo* order = list_.rowAt(static_cast<size_t>(index.row()));
   if (!order) return {};
-  return QString::fromStdString(orderBookColumnText(*order, index.column(), clientName_));
+  switch (role) {
+    case Qt::DisplayRole:
+      return QString::fromStdString(orderBookColumnText(*order, index.column(), clientName_));
+    case Qt::TextAlignmentRole:
+      return columnAlignment(orderBookColumns()[static_cast<size_t>(index.column())]);
+    case Qt::BackgroundRole: {
+      const QColor tint = statusTint(order->status);
+      return tint.isValid() ? QVariant(tint) : QVariant();
+    }
+    case Qt::ForegroundRole:
+      return refused_ && refused_(*order) ? QVariant(blockedText()) : QVariant();
+    case Qt::FontRole:
+      if (refused_ && refused_(*order)) {
+        QFont italic;
+        italic.setItalic(true);
+        return italic;
+      }
+      return {};
+    default:
+      return {};
+  }
 }
 
 QVariant BookListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole || orientation != Qt::Horizontal || section < 0 ||
-      section >= kOrderBookColumnCount)
-    return {};
-  return QString(orderBookColumns()[static_cast<size_t>(section)]);
+  if (orientation != Qt::Horizontal || section < 0 || section >= kOrderBookColumnCount) return {};
+  const char* title = orderBookColumns()[static_cast<size_t>(section)];
+  if (role == Qt::TextAlignmentRole) return columnAlignment(title);
+  return role == Qt::DisplayRole ? QVariant(QString(title)) : QVariant();
 }
 
 void BookListModel::beforeInsert(size_t row) {

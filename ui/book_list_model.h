@@ -12,8 +12,9 @@ class BookListModel : public QAbstractTableModel, private BookListListener {
   Q_OBJECT
 
  public:
+  // `refused` says which orders the dealer can no longer modify or cancel: they read dimmed.
   BookListModel(BookList& list, std::function<std::string(const std::string&)> clientName,
-                QObject* parent = nullptr);
+                std::function<bool(const sOFSOrderInfo&)> refused, QObject* parent = nullptr);
   ~BookListModel() override;
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -36,4 +37,5 @@ class BookListModel : public QAbstractTableModel, private BookListListener {
 
   BookList& list_;
   std::function<std::string(const std::string&)> clientName_;
+  std::function<bool(const sOFSOrderInfo&)> refused_;
 };

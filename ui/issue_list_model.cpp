@@ -1,6 +1,7 @@
 #include "ui/issue_list_model.h"
 
 #include "issues/watch_columns.h"
+#include "ui/list_look.h"
 
 IssueListModel::IssueListModel(const CWatchView& view, WatchTab tab, QObject* parent)
     : QAbstractTableModel(parent), view_(view), tab_(tab) {
@@ -17,10 +18,9 @@ int IssueListModel::columnCount(const QModelIndex& parent) const {
 
 QVariant IssueListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= shownRows_) return {};
-  if (role == Qt::TextAlignmentRole) {
-    const bool right = watchColumns()[static_cast<size_t>(index.column())].alignment == 1;
-    return QVariant::fromValue(Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft));
-  }
+  if (role == Qt::TextAlignmentRole)
+    return columnAlignment(
+        QString::fromStdString(watchColumns()[static_cast<size_t>(index.column())].name));
   if (role != Qt::DisplayRole) return {};
   const sOFSCol* issue = view_.rows(tab_)[static_cast<size_t>(index.row())];
   return QString::fromStdString(watchColumnText(issue, index.column()));
@@ -30,9 +30,8 @@ QVariant IssueListModel::headerData(int section, Qt::Orientation orientation, in
   if (orientation != Qt::Horizontal || section < 0 || section >= kWatchColumnCount) return {};
   const ColumnDescriptor& column = watchColumns()[static_cast<size_t>(section)];
   if (role == Qt::DisplayRole) return QString::fromStdString(column.name);
-  if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue(Qt::AlignVCenter |
-                               (column.alignment ? Qt::AlignRight : Qt::AlignLeft));
+  // Prices line up on the right whatever the descriptor's own alignment says.
+  if (role == Qt::TextAlignmentRole) return columnAlignment(QString::fromStdString(column.name));
   return {};
 }
 

@@ -15,11 +15,11 @@ void setListRecoveryFiles(const QString& userSettings, const QString& dialogPosi
   dialogPositionsFile = dialogPositions;
 }
 
-void restoreColumns(QHeaderView* header, const QString& listName) {
-  if (userSettingsFile.isEmpty()) return;
+bool restoreColumns(QHeaderView* header, const QString& listName) {
+  if (userSettingsFile.isEmpty()) return false;
   QSettings settings(userSettingsFile, QSettings::IniFormat);
   const QByteArray state = settings.value(listName + "/ColumnState").toByteArray();
-  if (!state.isEmpty()) header->restoreState(state);
+  return !state.isEmpty() && header->restoreState(state);
 }
 
 void saveColumns(const QHeaderView* header, const QString& listName) {

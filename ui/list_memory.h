@@ -8,8 +8,8 @@
 class QHeaderView;
 
 void setListRecoveryFiles(const QString& userSettings, const QString& dialogPositions);
-// Restores the header's remembered column order and widths.
-void restoreColumns(QHeaderView* header, const QString& listName);
+// Restores the header's remembered column order and widths; false when none were remembered.
+bool restoreColumns(QHeaderView* header, const QString& listName);
 // Remembers them; the list's owner calls it when the list closes.
 void saveColumns(const QHeaderView* header, const QString& listName);
 

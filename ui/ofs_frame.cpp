@@ -1,6 +1,7 @@
 #include "ui/ofs_frame.h"
 
 #include <QDockWidget>
+#include <QMdiSubWindow>
 #include <QSettings>
 
 #include "plugin/settings_paths.h"
@@ -25,7 +26,23 @@ void COFSFrame::showOrderBook() {
   orderBook_->raise();
 }
 
+void COFSFrame::showIn(QMdiSubWindow* window) {
+  const QSettings settings(kLayoutOrganisation, kLayoutApplication);
+  restoreState(settings.value("FrameLayout").toByteArray());
+  const QRect place = settings.value("FrameWindow").toRect();
+  if (!place.isValid() || settings.value("FrameMaximised", true).toBool()) {
+    window->showMaximized();
+    return;
+  }
+  window->setGeometry(place);
+  window->show();
+}
+
 void COFSFrame::saveLayout() const {
   QSettings settings(kLayoutOrganisation, kLayoutApplication);
   settings.setValue("FrameLayout", saveState());
+  if (auto* window = qobject_cast<const QMdiSubWindow*>(parentWidget())) {
+    settings.setValue("FrameMaximised", window->isMaximized());
+    settings.setValue("FrameWindow", window->geometry());
+  }
 }

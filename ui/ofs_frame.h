@@ -6,6 +6,7 @@
 class COFSControlBlock;
 class OrderBookWidget;
 class QDockWidget;
+class QMdiSubWindow;
 class WatchViewWidget;
 
 class COFSFrame : public QMainWindow {
@@ -18,7 +19,11 @@ class COFSFrame : public QMainWindow {
   OrderBookWidget* orderBook() const { return orderBookWidget_; }
   // Shows the docked order book and brings it forward.
   void showOrderBook();
-  // Stores the docking layout under the plug-in's organisation and application.
+  // Shows the frame in its sub-window of the host's document area: filling the area the first
+  // time, afterwards where the user left it, with the docked panes as they were.
+  void showIn(QMdiSubWindow* window);
+  // Stores the docking layout and the sub-window's place under the plug-in's organisation and
+  // application.
   void saveLayout() const;
 
  private:

@@ -8,12 +8,15 @@
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>
 #include <QTableView>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include "orderbook/book_summary.h"
 #include "orderbook/order_book_columns.h"
 #include "plugin/control_block.h"
 #include "plugin/lifecycle.h"
 #include "ui/book_list_model.h"
+#include "ui/list_look.h"
 #include "ui/list_memory.h"
 #include "ui/modify_price_dialog.h"
 #include "ui/order_history_dialog.h"
@@ -24,6 +27,14 @@ namespace {
 
 QString settingsName(const QTableView* list) {
   return "OFSOrderBook_" + list->objectName();
+}
+
+QLabel* heading(const char* text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  return label;
 }
 
 }  // namespace
@@ -40,10 +51,15 @@ OrderBookWidget::OrderBookWidget(COFSControlBlock& block, WatchViewWidget& watch
     if (block.services.getClientName && !client.empty()) block.services.getClientName(client, name);
     return name;
   };
+  // Every OFS bid is a buy, so the side tells the lines nothing; what a dealer needs to see at a
+  // glance is which open orders the issue or the carry-forward status has frozen.
+  auto refused = [&block](const sOFSOrderInfo& order) {
+    return modifyAndCancelRefused(order, block.issueOfOrder(order));
+  };
   open_ = new QSortFilterProxyModel(this);
-  open_->setSourceModel(new BookListModel(block.bookLists.open, clientName, open_));
+  open_->setSourceModel(new BookListModel(block.bookLists.open, clientName, refused, open_));
   completed_ = new QSortFilterProxyModel(this);
-  completed_->setSourceModel(new BookListModel(block.bookLists.closed, clientName, completed_));
+  completed_->setSourceModel(new BookListModel(block.bookLists.closed, clientName, {}, completed_));
   for (QSortFilterProxyModel* proxy : {open_, completed_})
     proxy->setFilterKeyColumn(kClientIdColumn);
 
@@ -52,10 +68,12 @@ OrderBookWidget::OrderBookWidget(COFSControlBlock& block, WatchViewWidget& watch
   openList_ = makeList("open", open_);
   completedList_ = makeList("completed", completed_);
   activeList_ = openList_;
-  layout->addWidget(new QLabel("Open Orders", this));
+  layout->addWidget(heading("Open Orders", this));
   layout->addWidget(openList_, 3);
-  layout->addWidget(new QLabel("Completed Orders", this));
+  layout->addWidget(makeTotals(openList_, block.bookLists.open));
+  layout->addWidget(heading("Completed Orders", this));
   layout->addWidget(completedList_, 2);
+  layout->addWidget(makeTotals(completedList_, block.bookLists.closed));
   addCommands();
   addListCommands();
 
@@ -79,10 +97,10 @@ QTableView* OrderBookWidget::makeList(const char* name, QSortFilterProxyModel* m
   list->setSelectionMode(QAbstractItemView::ExtendedSelection);
   list->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list->verticalHeader()->hide();
-  list->verticalHeader()->setDefaultSectionSize(20);
+  list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 6);
   list->horizontalHeader()->setSectionsMovable(true);
   list->setContextMenuPolicy(Qt::CustomContextMenu);
-  restoreColumns(list->horizontalHeader(), settingsName(list));
+  restoreOrFitColumns(list, settingsName(list));
   list->setShowGrid(rememberedFlag(settingsName(list), "GridLines", true));
   connect(list, &QTableView::customContextMenuRequested, this,
           [this, list](const QPoint& at) { showContextMenu(list, at); });
@@ -94,6 +112,38 @@ QTableView* OrderBookWidget::makeList(const char* name, QSortFilterProxyModel* m
     book_.modifyOrder(focusedOrder(list), ModifyPath::List);
   });
   return list;
+}
+
+QLabel* OrderBookWidget::makeTotals(QTableView* list, const BookList& orders) {
+  auto* totals = new QLabel(this);
+  totals->setObjectName(list->objectName() + "Totals");
+  totals->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  totals->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  // Live updates come in bursts: one count per pass of the event loop covers a whole burst.
+  auto* pending = new QTimer(totals);
+  pending->setSingleShot(true);
+  pending->setInterval(0);
+  connect(pending, &QTimer::timeout, totals, [this, list, &orders, totals] {
+    BookTotals sum;
+    // A million lines cost a few milliseconds read straight from the list; through the client
+    // filter only its client's lines are counted.
+    auto* proxy = static_cast<QSortFilterProxyModel*>(list->model());
+    if (proxy->filterRegularExpression().pattern().isEmpty()) {
+      orders.forEachOrder([&sum](const sOFSOrderInfo& order) { sum.add(order); });
+    } else {
+      for (int line = 0; line < proxy->rowCount(); ++line)
+        if (const sOFSOrderInfo* order = orderOnLine(list, line)) sum.add(*order);
+    }
+    totals->setText(QString::fromStdString(bookTotalsText(sum)));
+  });
+  QAbstractItemModel* model = list->model();
+  for (auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+    connect(model, signal, pending, qOverload<>(&QTimer::start));
+  connect(model, &QAbstractItemModel::dataChanged, pending, qOverload<>(&QTimer::start));
+  connect(model, &QAbstractItemModel::modelReset, pending, qOverload<>(&QTimer::start));
+  connect(model, &QAbstractItemModel::layoutChanged, pending, qOverload<>(&QTimer::start));
+  pending->start();
+  return totals;
 }
 
 void OrderBookWidget::filterToClient(const QString& clientId) {
@@ -174,10 +224,13 @@ std::vector<sOFSOrderInfo*> OrderBookWidget::selectedOrders(const QTableView* li
 
 sOFSOrderInfo* OrderBookWidget::focusedOrder(const QTableView* list) const {
   const QModelIndex current = list->currentIndex();
-  if (!current.isValid()) return nullptr;
+  return current.isValid() ? orderOnLine(list, current.row()) : nullptr;
+}
+
+sOFSOrderInfo* OrderBookWidget::orderOnLine(const QTableView* list, int line) const {
   auto* proxy = static_cast<QSortFilterProxyModel*>(list->model());
   return static_cast<BookListModel*>(proxy->sourceModel())
-      ->orderAt(proxy->mapToSource(current).row());
+      ->orderAt(proxy->mapToSource(proxy->index(line, 0)).row());
 }
 
 void OrderBookWidget::moveFocusDown(QTableView* list) {

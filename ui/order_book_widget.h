@@ -8,10 +8,12 @@
 
 #include "orderbook/order_book.h"
 
+class BookList;
 class COFSControlBlock;
 class ModifyPriceDialog;
 class OrderHistoryDialog;
 class OrderNumberDialog;
+class QLabel;
 class QSortFilterProxyModel;
 class QTableView;
 class WatchViewWidget;
@@ -32,6 +34,8 @@ class OrderBookWidget : public QWidget, private OrderBookLauncher {
 
  private:
   QTableView* makeList(const char* name, QSortFilterProxyModel* model);
+  // The summary line under `list`, following its lines as they come and go.
+  QLabel* makeTotals(QTableView* list, const BookList& orders);
   void addCommands();
   void runCommand(OrderBookCommand::Id command);
   void showContextMenu(QTableView* list, const QPoint& at);
@@ -39,6 +43,8 @@ class OrderBookWidget : public QWidget, private OrderBookLauncher {
   QTableView* activeList() const { return activeList_; }
   std::vector<sOFSOrderInfo*> selectedOrders(const QTableView* list) const;
   sOFSOrderInfo* focusedOrder(const QTableView* list) const;
+  // The order on a line of the list as shown (after the client filter).
+  sOFSOrderInfo* orderOnLine(const QTableView* list, int line) const;
   void moveFocusDown(QTableView* list);
 
   // The list's own menu (order_book_list_menu.cpp).

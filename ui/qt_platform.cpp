@@ -58,8 +58,7 @@ COFSFrame* QtPlatform::openFrame(COFSControlBlock& block, void* area) {
   if (mdi) {
     subWindow_ = mdi->addSubWindow(frame_);
     subWindow_->setAttribute(Qt::WA_DeleteOnClose);
-    subWindow_->resize(1000, 420);
-    subWindow_->show();
+    frame_->showIn(subWindow_);
   } else {
     frame_->show();
   }

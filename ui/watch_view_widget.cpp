@@ -10,13 +10,13 @@
 
 #include "issues/allotment_upload.h"
 #include "issues/issue_file_screens.h"
-#include "issues/watch_columns.h"
 #include "plugin/control_block.h"
 #include "plugin/settings_paths.h"
 #include "ui/basket_dialog.h"
 #include "ui/bulk_upload_dialog.h"
 #include "ui/issue_details_dialog.h"
 #include "ui/issue_list_model.h"
+#include "ui/list_look.h"
 #include "ui/list_memory.h"
 #include "ui/market_depth_dialog.h"
 #include "ui/ofs_frame.h"
@@ -69,10 +69,10 @@ WatchViewWidget::WatchViewWidget(COFSControlBlock& block, QWidget* parent)
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->verticalHeader()->hide();
     list->setContextMenuPolicy(Qt::CustomContextMenu);
-    for (int c = 0; c < kWatchColumnCount; ++c)
-      list->setColumnWidth(c, watchColumns()[static_cast<size_t>(c)].width);
+    list->setAlternatingRowColors(true);
+    list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 6);
     list->horizontalHeader()->setSectionsMovable(true);
-    restoreColumns(list->horizontalHeader(), CWatchView::kListSettingsNames[i]);
+    restoreOrFitColumns(list, CWatchView::kListSettingsNames[i]);
     // Right clicks on the header never reach this signal, so the header shows no menu.
     connect(list, &QWidget::customContextMenuRequested, this, [this, tab, list](const QPoint& at) {
       showContextMenu(tab, list->viewport()->mapToGlobal(at));

@@ -51,7 +51,6 @@ TEST_F(WatchFrame, ShowsThreeTabsWithTheSameSeventeenColumns) {
                                     "CutOff", "Minimun Quantity", "Lot Size", "Company Name",
                                     "Ceiling Price", "Indicative Price", "Underlying LTP"}))
         << name;
-    EXPECT_EQ(table->columnWidth(2), 50);
   }
   EXPECT_EQ(frame->watchView()->windowTitle(), "Current Issue List");
 }

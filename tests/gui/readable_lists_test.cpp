@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QSettings>
+#include <QTableView>
+
+#include "plugin/control_block.h"
+#include "plugin/lifecycle.h"
+#include "plugin/settings_paths.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/field_text.h"
+#include "tests/support/message_fixtures.h"
+#include "ui/list_memory.h"
+#include "ui/ofs_frame.h"
+#include "ui/order_book_widget.h"
+#include "ui/watch_view_widget.h"
+
+namespace {
+
+void settle() {
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+}
+
+class Lists : public testing::Test {
+ protected:
+  Lists() {
+    // Each test starts with nothing remembered: no layout, no list widths.
+    QSettings(kLayoutOrganisation, kLayoutApplication).clear();
+    QFile::remove(listFile);
+    setListRecoveryFiles(listFile, {});
+    host.clock = localTime(21, 11, 2026, 36000);
+    host.state.userDirectory = getenv("XDG_DATA_HOME");
+    initPlugin(host, host.app(), "U1", 3);
+    openFrame();
+  }
+  ~Lists() override {
+    frame.reset();
+    exitPlugin(host);
+    setListRecoveryFiles({}, {});
+    QFile::remove(listFile);
+  }
+  void openFrame() {
+    frame = std::make_unique<COFSFrame>(*controlBlock());
+    frame->resize(1200, 700);
+    frame->show();
+    frame->showOrderBook();
+    settle();
+  }
+  // "64001=1 54001=A1 12004=10 10306=10150 64655=open" and the fields every order shares.
+  void order(const std::string& fields) {
+    const auto message =
+        makeMessage(fieldsOf(fields + " 63100=101 63001=nse_ipo 10100=ABC-RS 54056=C 31003=U1"));
+    controlBlock()->OnLiveUpdate(message.get());
+    settle();
+  }
+  QTableView* list(const char* name) { return frame->findChild<QTableView*>(name); }
+  QString totals(const char* name) {
+    return frame->findChild<QLabel*>(QString(name) + "Totals")->text();
+  }
+
+  const QString listFile = QString(getenv("XDG_DATA_HOME")) + "/UserSetting.ini";
+  FakeHost host;
+  std::unique_ptr<COFSFrame> frame;
+};
+
+TEST_F(Lists, OrderLinesAlignNumbersRightTintByStatusAndDimFrozenOrders) {
+  // One order through every status: each leaves a tint of its own on the line.
+  QSet<QRgb> tints;
+  for (const char* status : {"open", "open pending", "rejected", "cancelled", "complete"}) {
+    order(std::string("64001=1 54001=A1 12004=10 10306=10150 64655=") + status);
+    const QAbstractItemModel* shown = list(*status == 'o' ? "open" : "completed")->model();
+    tints << shown->index(0, 5).data(Qt::BackgroundRole).value<QColor>().rgb();
+  }
+  EXPECT_EQ(tints.size(), 5);
+
+  order("64001=2 54001=A1 12004=10 10306=10150 64655=open 10355=Inactive");
+  order("64001=3 54001=A1 12004=10 10306=10150 64655=open");
+  const QAbstractItemModel* open = list("open")->model();
+  EXPECT_TRUE(open->index(1, 0).data(Qt::ForegroundRole).isValid()) << "inactive carry-forward";
+  EXPECT_FALSE(open->index(0, 0).data(Qt::ForegroundRole).isValid());
+  // OFS Order Number, Issue ID, Quantity, Price, Status, Allotted Price.
+  for (const auto& [column, right] :
+       {std::pair{0, true}, {2, false}, {3, true}, {4, true}, {5, false}, {20, true}}) {
+    const QVariant cell = open->index(0, column).data(Qt::TextAlignmentRole);
+    EXPECT_EQ(bool(cell.value<Qt::Alignment>() & Qt::AlignRight), right) << column;
+    EXPECT_EQ(open->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole), cell) << column;
+  }
+}
+
+TEST_F(Lists, TotalsFollowLiveUpdatesAndTheActiveClient) {
+  EXPECT_EQ(totals("open"), "Orders: 0   Quantity: 0   Amount: Rs 0.00");
+  order("64001=1 54001=A1 12004=100 10306=10200 64655=open");
+  order("64001=2 54001=A2 12004=20 10306=MKT 12008=MKT 64655=open");
+  EXPECT_EQ(totals("open"),
+            "Orders: 2   Quantity: 120   Amount: Rs 10,200.00   (1 MKT order not in amount)");
+  order("64001=1 54001=A1 12004=100 10306=10200 64655=cancelled");
+  EXPECT_EQ(totals("open"),
+            "Orders: 1   Quantity: 20   Amount: Rs 0.00   (1 MKT order not in amount)");
+  EXPECT_EQ(totals("completed"), "Orders: 1   Quantity: 100   Amount: Rs 10,200.00");
+  order("64001=3 54001=A1 12004=5 10306=10000 64655=open");
+  frame->orderBook()->filterToClient("A1");
+  settle();
+  EXPECT_EQ(totals("open"), "Orders: 1   Quantity: 5   Amount: Rs 500.00");
+}
+
+TEST_F(Lists, ColumnsFitTheirTextUntilTheUserSetsWidthsThatAreThenRemembered) {
+  sOFSCol issue;
+  issue.issueId = "I1";
+  issue.field49165 = "01/11/2026";
+  issue.field79 = "30/11/2026";
+  frame->watchView()->core().addIssue(&issue);
+  settle();
+  QTableView* current = list("current");
+  const QFontMetrics metrics(current->font());
+  EXPECT_GT(current->columnWidth(2), metrics.horizontalAdvance("30/11/2026")) << "Close Date";
+  EXPECT_GT(current->columnWidth(2), metrics.horizontalAdvance("Close Date"));
+  EXPECT_LT(current->columnWidth(0), 100) << "OFS ID is narrow";
+
+  current->horizontalHeader()->resizeSection(2, 177);
+  frame->watchView()->core().addIssue(&issue);
+  settle();
+  EXPECT_EQ(current->columnWidth(2), 177) << "no fitting once the user chose";
+  frame.reset();
+  openFrame();
+  frame->watchView()->core().addIssue(&issue);
+  settle();
+  EXPECT_EQ(list("current")->columnWidth(2), 177);
+}
+
+TEST_F(Lists, TheFrameFillsTheDocumentAreaFirstThenOpensWhereItWasLeft) {
+  QMdiArea area;
+  area.resize(900, 600);
+  area.show();
+  auto placed = [&] {
+    frame.reset();
+    frame = std::make_unique<COFSFrame>(*controlBlock());
+    QMdiSubWindow* window = area.addSubWindow(frame.get());
+    frame->showIn(window);
+    settle();
+    return window;
+  };
+  QMdiSubWindow* first = placed();
+  EXPECT_TRUE(first->isMaximized());
+  first->showNormal();
+  first->setGeometry(20, 30, 500, 300);
+  frame->saveLayout();
+  QMdiSubWindow* second = placed();
+  EXPECT_FALSE(second->isMaximized());
+  EXPECT_EQ(second->geometry(), QRect(20, 30, 500, 300));
+  frame.reset();
+}
+
+}  // namespace
