@@ -95,22 +95,3 @@ sOFSOrderInfo openOrder(const std::string& symbol) {
   order.proCliFlag = "C"s;
   return order;
 }
-
-EntryAct typeQuantity(const std::string& text) {
-  return [text](COrderEntryDlg& d) { d.setQuantity(text); };
-}
-
-EntryAct typePrice(const std::string& text) {
-  return [text](COrderEntryDlg& d) { d.setPrice(text); };
-}
-
-EntryAct typeEntry(const std::string& price, const std::string& quantity) {
-  return [=](COrderEntryDlg& d) {
-    d.setPrice(price);
-    d.setQuantity(quantity);
-  };
-}
-
-EntryAct pickClientType(const std::string& entry) {
-  return [entry](COrderEntryDlg& d) { d.selectClientType(entry); };
-}
