@@ -76,6 +76,13 @@ TEST_F(BasketTest, AddRefusesInOrderAndNamesTheField) {
       {"below the floor", rs, "A2", "10", "99.95", none,
        "Price Should be more than Floor Price 100.0000", kPrice},
       {"cut-off passes", rs, "A2", "10", "", cutOff, "", kQuantity},
+      // Two faults each: the earlier step must speak.
+      {"account before quantity", rs, "", "", "", none, "Please select AccountId", kClientId},
+      {"quantity before price", rs, "A2", "", "", none, "Please enter Quantity", kQuantity},
+      {"tick before minimum", rs, "A2", "5", "150.03", none, tick, kPrice},
+      {"minimum before lot", rs, "A2", "7", "150", none, "Order minimum Quantity is 10", kQuantity},
+      {"PCode before floor", is, "A2", "10", "99.95", none, "Please Enter Participant Code",
+       kParticipantCode},
   };
   for (const AddCase& c : cases) {
     addBid(c.issue, c.account, c.quantity, c.price, c.more);
