@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "tests/support/order_entry_fixture.h"
+#include "tests/support/record_with.h"
 #include "tests/support/scratch_dir.h"
 
 namespace {
@@ -126,9 +127,7 @@ TEST_F(BulkUploadTest, EachKindPlacesItsRowsAsTheClientTypeTheyDerive) {
 }
 
 TEST_F(BulkUploadTest, ModifyCancelRowsGoAsTheirIndicatorSays) {
-  sOFSOrderInfo order = openOrder("ABC-IS");
-  order.ofsOrderNo = "17";
-  order.pCode = "PC1";
+  const sOFSOrderInfo order = with(openOrder("ABC-IS"), &sOFSOrderInfo::pCode, "PC1");
   block().recordMaps.orders["17"] = std::make_unique<sOFSOrderInfo>(order);
   load(BidFileKind::NowModCxl,
        " OFFLINE,17,ABC,IS,100,150.00,CLI,A1,PC1,NO,,C\n"

@@ -2,6 +2,8 @@
 // with(P{}, &P::side, "S", &P::margin, "YES").
 #pragma once
 
+#include <utility>
+
 template <typename R>
 R with(R r) {
   return r;
