@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "tests/support/order_entry_fixture.h"
+#include "tests/support/record_with.h"
 #include "tests/support/scratch_dir.h"
 
 namespace {
@@ -94,29 +95,20 @@ TEST_F(BulkUploadTest, AStoppedLoadKeepsTheRowsReadBeforeIt) {
 }
 
 TEST_F(BulkUploadTest, EachKindPlacesItsRowsAsTheClientTypeTheyDerive) {
+  using enum BidFileKind;
+  const auto vt = [](const std::string& who) {
+    return "NSEIPO," + who + ",I1,5000,150,100% Margin,N,Institutional,\n";
+  };
   const struct {
     const char* name;
     BidFileKind kind;
     std::string text;
-    Lines sent;
+    Lines clients;  // of each om_put_order_ofs in turn
   } cases[] = {
-      {"NEAT client, TM code added",
-       BidFileKind::Neat,
-       " 01,01,ABC,IS,100,150,CLI,A1,PC1,02\n",
-       {"om_put_order_ofs A1-TM1"}},
-      {"NEAT proprietary",
-       BidFileKind::Neat,
-       " 01,01,ABC,IS,100,150,PRO,PC1,PC1,01\n",
-       {"om_put_order_ofs PC1"}},
-      {"VT F is PRO, C is CLI",
-       BidFileKind::Vt,
-       "NSEIPO,PRO,PC1,PC1,I1,5000,150,100% Margin,N,Institutional,\n"
-       "NSEIPO,CLI,A2,,I1,5000,150,100% Margin,N,Institutional,\n",
-       {"om_put_order_ofs PC1", "om_put_order_ofs A2-TM1"}},
-      {"NOW offline",
-       BidFileKind::Now,
-       " OFFLINE,ABC,IS,100,150,CLI,A2,,NO,,\n",
-       {"om_put_order_ofs A2-TM1"}},
+      {"NEAT client, TM code added", Neat, " 01,01,ABC,IS,100,150,CLI,A1,PC1,02\n", {"A1-TM1"}},
+      {"NEAT proprietary", Neat, " 01,01,ABC,IS,100,150,PRO,PC1,PC1,01\n", {"PC1"}},
+      {"VT F is PRO, C is CLI", Vt, vt("PRO,PC1,PC1") + vt("CLI,A2,"), {"PC1", "A2-TM1"}},
+      {"NOW offline", Now, " OFFLINE,ABC,IS,100,150,CLI,A2,,NO,,\n", {"A2-TM1"}},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -126,16 +118,16 @@ TEST_F(BulkUploadTest, EachKindPlacesItsRowsAsTheClientTypeTheyDerive) {
     EXPECT_TRUE(bulk->refusedLines().empty()) << bulk->refusedLines().front();
     bulk->place();
     EXPECT_EQ(prompt().questions(), Lines{"Are you sure to place these Basket Orders?"});
-    EXPECT_EQ(requests(sends()), c.sent);
+    Lines sent;
+    for (const std::string& client : c.clients) sent.push_back("om_put_order_ofs " + client);
+    EXPECT_EQ(requests(sends()), sent);
     EXPECT_FALSE(bulk->placeEnabled());
     bulk->reset();
   }
 }
 
 TEST_F(BulkUploadTest, ModifyCancelRowsGoAsTheirIndicatorSays) {
-  sOFSOrderInfo order = openOrder("ABC-IS");
-  order.ofsOrderNo = "17";
-  order.pCode = "PC1";
+  const sOFSOrderInfo order = with(openOrder("ABC-IS"), &sOFSOrderInfo::pCode, "PC1");
   block().recordMaps.orders["17"] = std::make_unique<sOFSOrderInfo>(order);
   load(BidFileKind::NowModCxl,
        " OFFLINE,17,ABC,IS,100,150.00,CLI,A1,PC1,NO,,C\n"

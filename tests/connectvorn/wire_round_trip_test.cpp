@@ -116,12 +116,8 @@ TEST(WireMalformed, IsRefusedNotRead) {
       {"id_too_long", std::string("\xff\xff\xff\xff\x7f\x01\x00", 7)},
       {"no_type", std::string("\x01", 1)},
       {"wrong_type", std::string("\x01\x02\x00", 3)},
-      {"length_past_end", std::string("\x01\x01\x05"
-                                      "abc",
-                                      6)},
-      {"length_one_past_end", std::string("\x01\x01\x04"
-                                          "abc",
-                                          6)},
+      {"length_past_end", std::string("\x01\x01\x05xyz", 6)},
+      {"length_one_past_end", std::string("\x01\x01\x04xyz", 6)},
       {"truncated_length", std::string("\x01\x01\x80", 3)},
       {"overlong_id", std::string("\x81\x00\x01\x00", 4)}};
   for (const auto& [name, bytes] : cases) {

@@ -2,15 +2,13 @@
 
 #include "host/sim/subscriptions.h"
 #include "tests/host_sim/sim_fixture.h"
+#include "tests/support/record_with.h"
 
 namespace simtest {
 namespace {
 
 sim::Order nseOrderOfA1() {
-  sim::Order order;
-  order.exchange = "nse_ipo";
-  order.account = "A1";
-  return order;
+  return with(sim::Order{}, &sim::Order::exchange, "nse_ipo", &sim::Order::account, "A1");
 }
 
 TEST(Subscriptions, CoverAnOrderByUserOrAccountOnItsExchangeOnly) {

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "tests/support/field_text.h"
+#include "tests/support/record_with.h"
 #include "tests/support/test_channel.h"
 
 namespace {
@@ -16,17 +17,6 @@ int fakeUuid(std::string& out) {
 
 using P = sOFSPlaceOrder;
 using O = sOFSOrderInfo;
-
-// A record with the given members changed: with(r, &P::side, "S", &P::margin, "YES").
-template <typename R>
-R with(R r) {
-  return r;
-}
-template <typename R, typename... More>
-R with(R r, std::string R::*member, const char* value, More... more) {
-  r.*member = value;
-  return with(r, more...);
-}
 
 const P kBid = with(P{}, &P::issueId, "I1", &P::clientId, "A1", &P::price, "123.45", &P::quantity,
                     "10", &P::proCli, "CLI", &P::priceType, "L", &P::screenName, "NSEIPO",

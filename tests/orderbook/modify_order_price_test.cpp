@@ -7,6 +7,7 @@
 #include <ostream>
 
 #include "orderbook/order_book_port.h"
+#include "tests/support/record_with.h"
 #include "tests/support/test_channel.h"
 
 namespace {
@@ -45,16 +46,10 @@ std::string sentOf(const Lines& transcript) {
 
 // Open retail orders 17 and 18 of account A1, PCode PC, on NSE: 100 at 150.00 each.
 sOFSOrderInfo orderOf(const std::string& number) {
-  sOFSOrderInfo order;
-  order.ofsOrderNo = number;
-  order.exchange = "nse_ipo";
-  order.issueId = "I1-RS";
-  order.symbol = "ABC-RS";
-  order.clientId = "A1";
-  order.pCode = "PC";
-  order.price = "15000";
-  order.quantity = "100";
-  return order;
+  using O = sOFSOrderInfo;
+  return with(O{}, &O::ofsOrderNo, number, &O::exchange, "nse_ipo", &O::issueId, "I1-RS",
+              &O::symbol, "ABC-RS", &O::clientId, "A1", &O::pCode, "PC", &O::price, "15000",
+              &O::quantity, "100");
 }
 
 using Orders = std::vector<sOFSOrderInfo>;
@@ -108,12 +103,9 @@ TEST_P(ModifyPriceOk, WalksTheOrdersInTurn) {
   const Case& c = GetParam();
   // "ABC-RS": floor 100, tick 0.05, minimum 10, lot 5, no size limit, HNI limit 500000; "DEF-RS"
   // the same with floor 160.
-  sOFSCol issue;
-  issue.floorPrice = "100";
-  issue.tickSize = 0.05;
-  issue.minQuantity = 10;
-  issue.lotSize = 5;
-  issue.hniLimit = "500000";
+  using C = sOFSCol;
+  sOFSCol issue = with(C{}, &C::floorPrice, "100", &C::tickSize, 0.05, &C::minQuantity, 10,
+                       &C::lotSize, 5, &C::hniLimit, "500000");
   Orders orders{orderOf("17"), orderOf("18")};
   c.arrange(orders, issue);
   FakeBookPort port;

@@ -94,6 +94,10 @@ class OrderBookCommandsTest : public OrderEntryFixture {
   std::vector<std::unique_ptr<sOFSOrderInfo>> owned_;
 };
 
+const char kActiveCf[] = "please select order with active CF Status";
+const char kCancel17[] = "om_cancel_order_ofs 17";
+const char kNotMatching[] = "Contract Information not matching";
+
 struct BookCase {
   const char* name;
   Lines orders;
@@ -104,25 +108,22 @@ struct BookCase {
 TEST_F(OrderBookCommandsTest, CancelRefusesAsksAndSendsInSelectionOrder) {
   const std::string one = "? Do you want to cancel Order No: 17 ";
   const std::string three = "? You have selected 3 Orders to Cancel. Proceed?";
-  const std::string pending = "Plese select a open order";
+  const std::string one18 = "? Do you want to cancel Order No: 18 ";
+  const std::string pending = "Plese select a open order", cf = kActiveCf, c17 = kCancel17;
+  const std::string inactive = "Orders with Inactive status cannot be cancelled";
+  const std::string noMargin =
+      "Order cancellation not allowed (in case Institutional orders with 0% margin)";
   const std::vector<BookCase> cases = {
-      {"one open order", {""}, {one, "om_cancel_order_ofs 17"}},
+      {"one open order", {""}, {one, c17}},
       {"answered no", {""}, {one}, false},
-      {"pending passed over",
-       {"pending", ""},
-       {pending, "? Do you want to cancel Order No: 18 ", "om_cancel_order_ofs 18"}},
+      {"pending passed over", {"pending", ""}, {pending, one18, "om_cancel_order_ofs 18"}},
       {"nothing open: nothing asked", {"closed"}, {pending}},
-      {"Inactive stops before asking",
-       {"", "Inactive", ""},
-       {"please select order with active CF Status"}},
-      {"inactive second: the first only",
-       {"", "inactive", ""},
-       {"Orders with Inactive status cannot be cancelled", three, "om_cancel_order_ofs 17"}},
-      {"NSE No Margin skipped, the others go on",
+      {"Inactive stops before asking", {"", "Inactive", ""}, {cf}},
+      {"inactive second: the first only", {"", "inactive", ""}, {inactive, three, c17}},
+      {"NSE 0% margin skipped",
        {"", "nomargin", ""},
-       {"Order cancellation not allowed (in case Institutional orders with 0% margin)", three,
-        "om_cancel_order_ofs 17", "om_cancel_order_ofs 19"}},
-      {"BSE No Margin is cancelled", {"bsenomargin"}, {one, "om_cancel_order_ofs 17"}},
+       {noMargin, three, c17, "om_cancel_order_ofs 19"}},
+      {"BSE No Margin is cancelled", {"bsenomargin"}, {one, c17}},
       {"walk-in order", {"walkin"}, {one, "om_cancel_order_walkin 17"}},
   };
   for (const BookCase& c : cases) {
@@ -161,7 +162,7 @@ TEST_F(OrderBookCommandsTest, ModifyOpensOrderEntryOnlyForAnOpenOrderOfAKnownIss
     std::string outcome;
   } cases[] = {
       {"", ModifyPath::Menu, "modify 17"},
-      {"Inactive", ModifyPath::Menu, "please select order with active CF Status"},
+      {"Inactive", ModifyPath::Menu, kActiveCf},
       {"pending", ModifyPath::Menu, "Please select an open order."},
       {"pending", ModifyPath::List, "Please select a open order."},
   };
@@ -178,16 +179,14 @@ TEST_F(OrderBookCommandsTest, ModifyOpensOrderEntryOnlyForAnOpenOrderOfAKnownIss
 TEST_F(OrderBookCommandsTest, BulkModifyKeepsOpenLimitOrdersOfOneContract) {
   const std::vector<BookCase> cases = {
       {"one contract", {"", "bigger"}, {"Number Of Orders : 2 Total Qty : 150 | 17 18"}},
-      {"closed and market skipped",
+      {"closed, MKT skipped",
        {"closed", "market", ""},
        {"Number Of Orders : 1 Total Qty : 100 | 19"}},
-      {"two issues", {"", "otherissue"}, {"Contract Information not matching"}},
-      {"one issue id on two exchanges", {"", "bse"}, {"Contract Information not matching"}},
-      {"last examined is closed", {"market", "closed"}, {"Please select open Order"}},
-      {"last examined is market",
-       {"closed", "market"},
-       {"Market Order Price Modification Not Allowed"}},
-      {"CF inactive stops", {"", "Inactive"}, {"please select order with active CF Status"}},
+      {"two issues", {"", "otherissue"}, {kNotMatching}},
+      {"one issue id on two exchanges", {"", "bse"}, {kNotMatching}},
+      {"last one is closed", {"market", "closed"}, {"Please select open Order"}},
+      {"last one is market", {"closed", "market"}, {"Market Order Price Modification Not Allowed"}},
+      {"CF inactive stops", {"", "Inactive"}, {kActiveCf}},
   };
   for (const BookCase& c : cases) {
     book->bulkModify(orders(c.orders));

@@ -80,10 +80,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"non_retail_amount", onIsSeries, kNoAct,
              "Amount Should Exceed 500000 for IS series orders"},
         Case{"ten_digit_quantity",
-             [](sOFSCol& i, sOFSOrderInfo& o) {
-               onIsSeries(i, o);
-               i.lotSize = 0;
-             },
+             [](sOFSCol& i, sOFSOrderInfo& o) { onIsSeries(i, o), i.lotSize = 0; },
              typeQuantity("1000000000"), "Qty. should not be more than 9 Digits"},
         Case{"is_no_margin_up", isNoMarginOrder, typeEntry("160", "4000"), ""},
         Case{"rs_down", kAsIs, typeEntry("140", "50"), ""}));

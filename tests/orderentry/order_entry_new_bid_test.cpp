@@ -82,20 +82,14 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"non_retail_amount", [](sOFSCol& i, FakeHostState&) { i = nseIssue("IS"); }, kNoAct,
              "Amount Should Exceed 500000 for IS series orders"},
         Case{"pcode_with_non_institutional", kAccountWithPCode,
-             [](auto& d) {
-               d.selectOrderType("Non-institutional");
-               d.setQuantity("4000");
-             },
+             [](auto& d) { d.selectOrderType("Non-institutional"), d.setQuantity("4000"); },
              "Client with Pcode cannot place order in Non-institutional Order."},
         Case{"ten_digit_quantity", kNoLot, typeQuantity("1000000000"),
              "Qty. should not be more than 9 Digits"},
         Case{"below_the_floor", kAsIs, typePrice("90"),
              "Price Should be more than Floor Price 100.0000", "Price"},
         Case{"at_the_closing_second_nine_digits",
-             [](sOFSCol& i, FakeHostState& h) {
-               kNoLot(i, h);
-               i.field67 = "10:00:00";
-             },
+             [](sOFSCol& i, FakeHostState& h) { kNoLot(i, h), i.field67 = "10:00:00"; },
              typeQuantity("999999999"), ""}));
 
 TEST_F(NewBid, AnOrdinaryBidIsSentAndRememberedAndTheScreenResets) {

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <ostream>
 
 #include "plugin/client_overview.h"
 #include "plugin/control_block.h"
@@ -73,31 +72,20 @@ TEST_F(ClientOverviewWorker, StopsAtTheNextClientOnceShutdownClosesTheGate) {
   EXPECT_EQ(logged, "");
 }
 
-struct RefusalCase {
-  const char* name;
-  std::function<void(FakeHostState&)> setUp;
-  const char* message;
-  friend void PrintTo(const RefusalCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class CompatibilityRefusal : public Lifecycle, public testing::WithParamInterface<RefusalCase> {};
-
-TEST_P(CompatibilityRefusal, StopsWithItsMessageAndNoBlockAndSendsNothing) {
-  GetParam().setUp(host.state);
-  init();
-  EXPECT_EQ(controlBlock(), nullptr);
-  EXPECT_EQ(host.promptLog.messages(), (Lines{GetParam().message}));
-  EXPECT_TRUE(host.state.events.empty());
-  EXPECT_EQ(activateClient("C1"), 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Hosts, CompatibilityRefusal,
-    testing::Values(
-        RefusalCase{"no_module", [](auto& s) { s.hasModule = false; }, "exe Module not found"},
-        RefusalCase{"no_exe_app", [](auto& s) { s.missingServices.insert("pu_get_exe_app"); },
-                    "Exe is not compatible with VAP"}));
 // A host without the rights service and a user without the right are the refused_* scripts.
+TEST(CompatibilityRefusal, StopsWithItsMessageAndNoBlockAndSendsNothing) {
+  for (const bool module : {false, true}) {
+    FakeHost host;
+    host.state.hasModule = module;
+    host.state.missingServices.insert("pu_get_exe_app");  // told only when the module is there
+    initPlugin(host, host.app(), "U1", 3);
+    EXPECT_EQ(controlBlock(), nullptr);
+    EXPECT_EQ(host.promptLog.messages(),
+              Lines{module ? "Exe is not compatible with VAP" : "exe Module not found"});
+    EXPECT_TRUE(host.state.events.empty());
+    EXPECT_EQ(activateClient("C1"), 0);
+  }
+}
 
 TEST_F(Lifecycle, HostWithoutOptionalServicesStillStartsAndEverySendFails) {
   for (const HostServiceName& s : kHostServiceNames)

@@ -1,6 +1,7 @@
 #include "tests/support/order_entry_fixture.h"
 
 #include "plugin/lifecycle.h"
+#include "tests/support/record_with.h"
 
 // One-letter texts are assigned as strings: gcc 12 -O3 misreads a literal assignment (-Wrestrict).
 using namespace std::string_literals;
@@ -47,28 +48,17 @@ Lines OrderEntryFixture::sends() const {
 }
 
 sOFSCol nseIssue(const std::string& series) {
-  sOFSCol issue;
-  issue.issueId = "I1";
-  issue.exchange = "nse_ipo";
-  issue.symbol = "ABC-" + series;
-  issue.floorPrice = "100";
-  issue.field63023 = "200";
-  issue.tickSize = 0.05;
-  issue.minQuantity = 10;
-  issue.lotSize = 5;
-  issue.field54009 = "200000";
-  issue.hniLimit = "500000";
-  issue.field63059 = "Y"s;
-  issue.field54803 = "150";
-  return issue;
+  using C = sOFSCol;
+  return with(C{}, &C::issueId, "I1", &C::exchange, "nse_ipo", &C::symbol, "ABC-" + series,
+              &C::floorPrice, "100", &C::field63023, "200", &C::tickSize, 0.05, &C::minQuantity, 10,
+              &C::lotSize, 5, &C::field54009, "200000", &C::hniLimit, "500000", &C::field63059,
+              "Y"s, &C::field54803, "150");
 }
 
 sOFSCol bseIssue(const std::string& series) {
-  sOFSCol issue = nseIssue();
-  issue.exchange = "bse_ipo";
-  issue.symbol = "XYZ-" + series;
-  issue.category = "CAT";
-  return issue;
+  using C = sOFSCol;
+  return with(nseIssue(), &C::exchange, "bse_ipo", &C::symbol, "XYZ-" + series, &C::category,
+              "CAT");
 }
 
 const sOFSCol& OrderEntryFixture::addIssue(const sOFSCol& issue) {
@@ -78,39 +68,9 @@ const sOFSCol& OrderEntryFixture::addIssue(const sOFSCol& issue) {
 }
 
 sOFSOrderInfo openOrder(const std::string& symbol) {
-  sOFSOrderInfo order;
-  order.exchange = "nse_ipo";
-  order.field31003 = "U1";
-  order.clientId = "A1";
-  order.issueId = "I1";
-  order.symbol = symbol;
-  order.ofsOrderNo = "17";
-  order.status = "open";
-  order.price = "15000";
-  order.quantity = "100";
-  order.priceType = "L"s;
-  order.field12003 = "B"s;
-  order.cfStatus = "Active";
-  order.margin = "100% Margin";
-  order.proCliFlag = "C"s;
-  return order;
-}
-
-EntryAct typeQuantity(const std::string& text) {
-  return [text](COrderEntryDlg& d) { d.setQuantity(text); };
-}
-
-EntryAct typePrice(const std::string& text) {
-  return [text](COrderEntryDlg& d) { d.setPrice(text); };
-}
-
-EntryAct typeEntry(const std::string& price, const std::string& quantity) {
-  return [=](COrderEntryDlg& d) {
-    d.setPrice(price);
-    d.setQuantity(quantity);
-  };
-}
-
-EntryAct pickClientType(const std::string& entry) {
-  return [entry](COrderEntryDlg& d) { d.selectClientType(entry); };
+  using O = sOFSOrderInfo;
+  return with(O{}, &O::exchange, "nse_ipo", &O::field31003, "U1", &O::clientId, "A1", &O::issueId,
+              "I1", &O::symbol, symbol, &O::ofsOrderNo, "17", &O::status, "open", &O::price,
+              "15000", &O::quantity, "100", &O::priceType, "L"s, &O::field12003, "B"s, &O::cfStatus,
+              "Active", &O::margin, "100% Margin", &O::proCliFlag, "C"s);
 }

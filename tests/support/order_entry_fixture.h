@@ -23,10 +23,18 @@ sOFSOrderInfo openOrder(const std::string& symbol = "ABC-RS");
 
 // One thing the user does on the screen, for test tables.
 using EntryAct = std::function<void(COrderEntryDlg&)>;
-EntryAct typeQuantity(const std::string& text);
-EntryAct typePrice(const std::string& text);
-EntryAct typeEntry(const std::string& price, const std::string& quantity);
-EntryAct pickClientType(const std::string& entry);
+inline EntryAct typeQuantity(std::string t) {
+  return [t](auto& d) { d.setQuantity(t); };
+}
+inline EntryAct typePrice(std::string t) {
+  return [t](auto& d) { d.setPrice(t); };
+}
+inline EntryAct typeEntry(std::string p, std::string q) {
+  return [=](auto& d) { d.setPrice(p), d.setQuantity(q); };
+}
+inline EntryAct pickClientType(std::string t) {
+  return [t](auto& d) { d.selectClientType(t); };
+}
 const EntryAct kNoAct = [](COrderEntryDlg&) {};
 
 // A row of a submit table: what is arranged before the screen opens, what the user then does,
