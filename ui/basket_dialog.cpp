@@ -15,6 +15,7 @@
 #include "ui/basket_list_model.h"
 #include "ui/dialog_keys.h"
 #include "ui/entry_widgets.h"
+#include "ui/list_look.h"
 #include "ui/numeric_edit.h"
 #include "ui/splitter_frame.h"
 
@@ -69,6 +70,7 @@ BasketDialog::BasketDialog(COFSControlBlock& block, QWidget* parent)
   list_->setSelectionBehavior(QAbstractItemView::SelectRows);
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_->verticalHeader()->hide();
+  restoreOrFitColumns(list_, "BasketOrder");
   connect(list_, &QTableView::doubleClicked, this,
           [this](const QModelIndex& index) { screen_.editRow(static_cast<size_t>(index.row())); });
 

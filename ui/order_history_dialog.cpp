@@ -9,6 +9,7 @@
 #include "plugin/control_block.h"
 #include "ui/dialog_keys.h"
 #include "ui/history_list_model.h"
+#include "ui/list_look.h"
 
 OrderHistoryDialog::OrderHistoryDialog(COFSControlBlock& block, QWidget* parent)
     : QDialog(parent), block_(block), history_(block) {
@@ -26,7 +27,9 @@ OrderHistoryDialog::OrderHistoryDialog(COFSControlBlock& block, QWidget* parent)
   // Fixed row heights: a long history is laid out without measuring its lines.
   table_->verticalHeader()->hide();
   table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  // Sized to what the lines show, so a date and time never wraps; the last column takes the rest.
+  table_->horizontalHeader()->setStretchLastSection(true);
+  restoreOrFitColumns(table_, "OFSOrderHistory");
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& current) {
             history_.selectRow(current.isValid() ? static_cast<size_t>(current.row())

@@ -14,6 +14,8 @@ ScripPropertiesDialog::ScripPropertiesDialog(QWidget* parent) : QDialog(parent) 
   table_->setHorizontalHeaderLabels({"Property", "Value"});
   table_->verticalHeader()->hide();
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  // Property names are never cut, whatever the font; the value takes the rest.
+  table_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   table_->horizontalHeader()->setStretchLastSection(true);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(table_);
