@@ -46,7 +46,7 @@ struct Services {
   static int registerHotkey(void*, const std::string& caption, int number, const std::string& name,
                             const std::string& key, const std::string& owner) {
     return record("hotkey " + otpx::quote(caption) + " " + std::to_string(number) + " " +
-               otpx::quote(name) + " " + otpx::quote(key) + " " + otpx::quote(owner));
+                  otpx::quote(name) + " " + otpx::quote(key) + " " + otpx::quote(owner));
   }
   static int pcode(const std::string& account, std::string& out) {
     auto it = st().pcodes.find(account);
