@@ -39,17 +39,12 @@ class BoxAnswerer {
   QTimer timer_;
 };
 
-template <class Case>
-std::string caseName(const testing::TestParamInfo<Case>& info) {
-  return info.param.name;
-}
+const auto caseName = [](const auto& info) { return std::string(info.param.name); };
 
 struct NumericCase {
   const char* name;
   NumericEdit::Kind kind;
-  const char* start;  // a leading '^' selects it all
-  const char* typed;
-  const char* after;
+  const char *start, *typed, *after;  // a leading '^' selects all of start
   size_t refusals;
 };
 
@@ -77,14 +72,13 @@ INSTANTIATE_TEST_SUITE_P(
                     NumericCase{"DecimalRefusesASecond", K::Decimal, "1.5", ".", "1.5", 1},
                     NumericCase{"APointReplacesTheSelected", K::Decimal, "^1.5", ".2", ".2", 0},
                     NumericCase{"ABlankIsRefused", K::Decimal, "", " 1", "1", 1}),
-    caseName<NumericCase>);
+    caseName);
 
 struct ComboCase {
   const char* name;
-  const char* typed;
-  const char* shown;
-  const char* selected;  // the completed part, which typing on replaces
-  const char* taken;     // what Enter takes; empty: nothing, and Enter is the window's
+  // selected: the completed part, which typing on replaces; taken: what Enter takes (empty:
+  // nothing, and Enter is the window's).
+  const char *typed, *shown, *selected, *taken;
 };
 
 class ComboKeys : public testing::TestWithParam<ComboCase> {};
@@ -115,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, ComboKeys,
                          testing::Values(ComboCase{"FirstEntryThatBegins", "al", "ALPHA", "PHA",
                                                    "ALPHA"},
                                          ComboCase{"NoEntryBegins", "z", "z", "", ""}),
-                         caseName<ComboCase>);
+                         caseName);
 
 struct Dragged : SplitterFrame {
   using QSplitter::moveSplitter;
@@ -126,8 +120,7 @@ TEST(SplitterFrame, RemembersWhereTheBorderWasLeftPerWindow) {
   const ScratchDir scratch;
   setListRecoveryFiles(QString::fromStdString(scratch.path() + "/UserSetting.ini"), QString());
   auto shown = [](SplitterFrame& panes) {
-    panes.addWidget(new QWidget);
-    panes.addWidget(new QWidget);
+    for (int i = 0; i < 2; ++i) panes.addWidget(new QWidget);
     panes.resize(200, 400);
     panes.show();
     panes.restoreSizes();
@@ -145,15 +138,13 @@ TEST(SplitterFrame, RemembersWhereTheBorderWasLeftPerWindow) {
 
 TEST(WindowFonts, TheVariationReachesTheOpenWindowsInOrder) {
   QWidget root;
-  Seen order;
   struct Recorder : QObject {
-    Seen* order;
+    Seen order;
     bool eventFilter(QObject* o, QEvent* e) override {
-      if (e->type() == QEvent::FontChange) order->push_back(o->objectName().toStdString());
+      if (e->type() == QEvent::FontChange) order.push_back(o->objectName().toStdString());
       return false;
     }
   } recorder;
-  recorder.order = &order;
   // Made in another order than the one they follow; market depth is not open.
   for (const char* name : {"ModifyPrice", "OrderEntry", "IssueDetails", "BulkUpload"}) {
     auto* dialog = new QDialog(&root);
@@ -170,9 +161,9 @@ TEST(WindowFonts, TheVariationReachesTheOpenWindowsInOrder) {
                                              {100, kMaxFontPoints, kMaxFontPoints},
                                              {-100, kMinFontPoints, kMinFontPoints}};
   for (auto [variation, window, own] : cases) {
-    order.clear();
+    recorder.order.clear();
     reapplyWindowFonts(&root, variation, 40 + variation);
-    EXPECT_EQ(order, (Seen{"OrderEntry", "BulkUpload", "IssueDetails", "ModifyPrice"}));
+    EXPECT_EQ(recorder.order, (Seen{"OrderEntry", "BulkUpload", "IssueDetails", "ModifyPrice"}));
     EXPECT_EQ(entry->font().pointSize(), window) << variation;
     EXPECT_EQ(heading->font().pointSize(), own) << variation;
     EXPECT_EQ(entry->property("fontStamp").toLongLong(), 40 + variation);

@@ -8,8 +8,10 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QSettings>
+#include <QTabWidget>
 #include <QTableView>
 
+#include "issues/watch_view.h"
 #include "plugin/control_block.h"
 #include "plugin/lifecycle.h"
 #include "plugin/settings_paths.h"
@@ -60,6 +62,13 @@ class Lists : public testing::Test {
     settle();
   }
   QTableView* list(const char* name) { return frame->findChild<QTableView*>(name); }
+  static sOFSCol issue(const char* id) {
+    sOFSCol made;
+    made.issueId = id;
+    made.field49165 = "01/11/2026";
+    made.field79 = "30/11/2026";
+    return made;
+  }
   QString totals(const char* name) {
     return frame->findChild<QLabel*>(QString(name) + "Totals")->text();
   }
@@ -68,6 +77,37 @@ class Lists : public testing::Test {
   FakeHost host;
   std::unique_ptr<COFSFrame> frame;
 };
+
+TEST_F(Lists, TheWatchShowsThreeTabsWithTheSameSeventeenColumnsAndNewIssuesOnTop) {
+  auto* tabs = frame->watchView()->findChild<QTabWidget*>();
+  ASSERT_EQ(tabs->count(), 3);
+  EXPECT_EQ(tabs->tabText(0) + tabs->tabText(1) + tabs->tabText(2),
+            "Current IssuesForthcoming IssuesPast Issues");
+  for (const char* name : {"current", "forthcoming", "past"}) {
+    QStringList headers;
+    for (int c = 0; c < list(name)->model()->columnCount(); ++c)
+      headers << list(name)->model()->headerData(c, Qt::Horizontal).toString();
+    EXPECT_EQ(headers, (QStringList{"OFS ID", "Open Date", "Close Date", "Issue Size", "Tick Size",
+                                    "Floor Price", "RMS Price", "Symbol", "Series", "Exchange",
+                                    "CutOff", "Minimun Quantity", "Lot Size", "Company Name",
+                                    "Ceiling Price", "Indicative Price", "Underlying LTP"}))
+        << name;
+  }
+  EXPECT_EQ(frame->watchView()->windowTitle(), "Current Issue List");
+
+  sOFSCol first = issue("I1"), second = issue("I2");
+  CWatchView& core = frame->watchView()->core();
+  core.addIssue(&first);
+  core.addIssue(&second);
+  const QAbstractItemModel* current = list("current")->model();
+  ASSERT_EQ(current->rowCount(), 2);
+  EXPECT_EQ(current->index(0, 0).data().toString() + current->index(1, 0).data().toString(),
+            "I2I1");
+  EXPECT_EQ(list("past")->model()->rowCount(), 0);
+  ASSERT_TRUE(frame->watchView()->selectRows("current", {"I1"}));
+  EXPECT_EQ(core.selectedIssue(), &first);
+  EXPECT_FALSE(frame->watchView()->selectRows("elsewhere", {"I1"}));
+}
 
 TEST_F(Lists, OrderLinesAlignNumbersRightTintByStatusAndDimFrozenOrders) {
   // One order through every status: each leaves a tint of its own on the line.
@@ -110,11 +150,8 @@ TEST_F(Lists, TotalsFollowLiveUpdatesAndTheActiveClient) {
 }
 
 TEST_F(Lists, ColumnsFitTheirTextUntilTheUserSetsWidthsThatAreThenRemembered) {
-  sOFSCol issue;
-  issue.issueId = "I1";
-  issue.field49165 = "01/11/2026";
-  issue.field79 = "30/11/2026";
-  frame->watchView()->core().addIssue(&issue);
+  sOFSCol one = issue("I1");
+  frame->watchView()->core().addIssue(&one);
   settle();
   QTableView* current = list("current");
   const QFontMetrics metrics(current->font());
@@ -123,12 +160,12 @@ TEST_F(Lists, ColumnsFitTheirTextUntilTheUserSetsWidthsThatAreThenRemembered) {
   EXPECT_LT(current->columnWidth(0), 100) << "OFS ID is narrow";
 
   current->horizontalHeader()->resizeSection(2, 177);
-  frame->watchView()->core().addIssue(&issue);
+  frame->watchView()->core().addIssue(&one);
   settle();
   EXPECT_EQ(current->columnWidth(2), 177) << "no fitting once the user chose";
   frame.reset();
   openFrame();
-  frame->watchView()->core().addIssue(&issue);
+  frame->watchView()->core().addIssue(&one);
   settle();
   EXPECT_EQ(list("current")->columnWidth(2), 177);
 }
