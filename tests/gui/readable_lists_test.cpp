@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QSettings>
@@ -21,6 +22,8 @@
 #include "ui/list_memory.h"
 #include "ui/ofs_frame.h"
 #include "ui/order_book_widget.h"
+#include "ui/order_history_dialog.h"
+#include "ui/order_number_dialog.h"
 #include "ui/watch_view_widget.h"
 
 namespace {
@@ -191,6 +194,36 @@ TEST_F(Lists, TheFrameFillsTheDocumentAreaFirstThenOpensWhereItWasLeft) {
   EXPECT_FALSE(second->isMaximized());
   EXPECT_EQ(second->geometry(), QRect(20, 30, 500, 300));
   frame.reset();
+}
+
+TEST_F(Lists, TheNumberPromptOpensAHistoryThatTakesAHundredThousandLines) {
+  {
+    OrderHistoryDialog window(*controlBlock());
+    OrderNumberDialog prompt(window);
+    prompt.findChild<QLineEdit*>()->setText("1001");
+    prompt.accept();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.property("heading").toString(), "Order History for Order No.:1001");
+
+    constexpr int kLines = 100000;
+    for (int i = 0; i < kLines; ++i) {
+      auto row = std::make_unique<sOFSOrderInfo>();
+      row->status = "open";
+      row->field49238 = std::to_string(i);
+      controlBlock()->onHistoryRow(std::move(row));
+    }
+    controlBlock()->onHistoryEnd();
+    const QAbstractItemModel* lines = window.findChild<QTableView*>("history")->model();
+    EXPECT_EQ(lines->rowCount(), kLines);
+    EXPECT_EQ(lines->index(kLines - 1, 3).data().toString(), "open");
+    QStringList details;
+    for (QLabel* label : window.findChildren<QLabel*>())
+      if (auto* value = qobject_cast<QLabel*>(label->buddy()))
+        details << label->text() + value->text();
+    EXPECT_EQ(details.size(), 9);
+    EXPECT_TRUE(details.contains("ExchangeOrderNo:99999")) << details.join("|").toStdString();
+  }
+  EXPECT_FALSE(controlBlock()->onHistoryRow);
 }
 
 }  // namespace
