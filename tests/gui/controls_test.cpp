@@ -24,8 +24,7 @@ namespace {
 using Seen = std::vector<std::string>;
 
 // Answers every modal message box with `key` while it lives, recording "caption|text".
-class BoxAnswerer {
- public:
+struct BoxAnswerer {
   explicit BoxAnswerer(Qt::Key key) {
     timer_.callOnTimeout([this, key] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -36,8 +35,6 @@ class BoxAnswerer {
     timer_.start(5);
   }
   Seen seen;
-
- private:
   QTimer timer_;
 };
 
@@ -172,6 +169,7 @@ TEST(WindowFonts, TheVariationReachesTheOpenWindowsInOrder) {
   }
 }
 
+// How many pixels have the colour, and their mean column.
 struct Columns {
   int pixels = 0;
   double meanX = 0;

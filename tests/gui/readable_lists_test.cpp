@@ -65,6 +65,10 @@ class Lists : public testing::Test {
     settle();
   }
   QTableView* list(const char* name) { return frame->findChild<QTableView*>(name); }
+  void add(sOFSCol& issue) {
+    frame->watchView()->core().addIssue(&issue);
+    settle();
+  }
   static sOFSCol issue(const char* id) {
     sOFSCol made;
     made.issueId = id;
@@ -154,8 +158,7 @@ TEST_F(Lists, TotalsFollowLiveUpdatesAndTheActiveClient) {
 
 TEST_F(Lists, ColumnsFitTheirTextUntilTheUserSetsWidthsThatAreThenRemembered) {
   sOFSCol one = issue("I1");
-  frame->watchView()->core().addIssue(&one);
-  settle();
+  add(one);
   QTableView* current = list("current");
   const QFontMetrics metrics(current->font());
   EXPECT_GT(current->columnWidth(2), metrics.horizontalAdvance("30/11/2026")) << "Close Date";
@@ -163,13 +166,11 @@ TEST_F(Lists, ColumnsFitTheirTextUntilTheUserSetsWidthsThatAreThenRemembered) {
   EXPECT_LT(current->columnWidth(0), 100) << "OFS ID is narrow";
 
   current->horizontalHeader()->resizeSection(2, 177);
-  frame->watchView()->core().addIssue(&one);
-  settle();
+  add(one);
   EXPECT_EQ(current->columnWidth(2), 177) << "no fitting once the user chose";
   frame.reset();
   openFrame();
-  frame->watchView()->core().addIssue(&one);
-  settle();
+  add(one);
   EXPECT_EQ(list("current")->columnWidth(2), 177);
 }
 
