@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QImage>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -11,6 +12,7 @@
 
 #include "tests/support/scratch_dir.h"
 #include "ui/auto_complete_combo.h"
+#include "ui/demand_chart.h"
 #include "ui/dialog_keys.h"
 #include "ui/list_memory.h"
 #include "ui/numeric_edit.h"
@@ -22,8 +24,7 @@ namespace {
 using Seen = std::vector<std::string>;
 
 // Answers every modal message box with `key` while it lives, recording "caption|text".
-class BoxAnswerer {
- public:
+struct BoxAnswerer {
   explicit BoxAnswerer(Qt::Key key) {
     timer_.callOnTimeout([this, key] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -34,22 +35,15 @@ class BoxAnswerer {
     timer_.start(5);
   }
   Seen seen;
-
- private:
   QTimer timer_;
 };
 
-template <class Case>
-std::string caseName(const testing::TestParamInfo<Case>& info) {
-  return info.param.name;
-}
+const auto caseName = [](const auto& info) { return std::string(info.param.name); };
 
 struct NumericCase {
   const char* name;
   NumericEdit::Kind kind;
-  const char* start;  // a leading '^' selects it all
-  const char* typed;
-  const char* after;
+  const char *start, *typed, *after;  // a leading '^' selects all of start
   size_t refusals;
 };
 
@@ -77,14 +71,13 @@ INSTANTIATE_TEST_SUITE_P(
                     NumericCase{"DecimalRefusesASecond", K::Decimal, "1.5", ".", "1.5", 1},
                     NumericCase{"APointReplacesTheSelected", K::Decimal, "^1.5", ".2", ".2", 0},
                     NumericCase{"ABlankIsRefused", K::Decimal, "", " 1", "1", 1}),
-    caseName<NumericCase>);
+    caseName);
 
 struct ComboCase {
   const char* name;
-  const char* typed;
-  const char* shown;
-  const char* selected;  // the completed part, which typing on replaces
-  const char* taken;     // what Enter takes; empty: nothing, and Enter is the window's
+  // selected: the completed part, which typing on replaces; taken: what Enter takes (empty:
+  // nothing, and Enter is the window's).
+  const char *typed, *shown, *selected, *taken;
 };
 
 class ComboKeys : public testing::TestWithParam<ComboCase> {};
@@ -115,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, ComboKeys,
                          testing::Values(ComboCase{"FirstEntryThatBegins", "al", "ALPHA", "PHA",
                                                    "ALPHA"},
                                          ComboCase{"NoEntryBegins", "z", "z", "", ""}),
-                         caseName<ComboCase>);
+                         caseName);
 
 struct Dragged : SplitterFrame {
   using QSplitter::moveSplitter;
@@ -126,8 +119,7 @@ TEST(SplitterFrame, RemembersWhereTheBorderWasLeftPerWindow) {
   const ScratchDir scratch;
   setListRecoveryFiles(QString::fromStdString(scratch.path() + "/UserSetting.ini"), QString());
   auto shown = [](SplitterFrame& panes) {
-    panes.addWidget(new QWidget);
-    panes.addWidget(new QWidget);
+    for (int i = 0; i < 2; ++i) panes.addWidget(new QWidget);
     panes.resize(200, 400);
     panes.show();
     panes.restoreSizes();
@@ -145,15 +137,13 @@ TEST(SplitterFrame, RemembersWhereTheBorderWasLeftPerWindow) {
 
 TEST(WindowFonts, TheVariationReachesTheOpenWindowsInOrder) {
   QWidget root;
-  Seen order;
   struct Recorder : QObject {
-    Seen* order;
+    Seen order;
     bool eventFilter(QObject* o, QEvent* e) override {
-      if (e->type() == QEvent::FontChange) order->push_back(o->objectName().toStdString());
+      if (e->type() == QEvent::FontChange) order.push_back(o->objectName().toStdString());
       return false;
     }
   } recorder;
-  recorder.order = &order;
   // Made in another order than the one they follow; market depth is not open.
   for (const char* name : {"ModifyPrice", "OrderEntry", "IssueDetails", "BulkUpload"}) {
     auto* dialog = new QDialog(&root);
@@ -170,13 +160,63 @@ TEST(WindowFonts, TheVariationReachesTheOpenWindowsInOrder) {
                                              {100, kMaxFontPoints, kMaxFontPoints},
                                              {-100, kMinFontPoints, kMinFontPoints}};
   for (auto [variation, window, own] : cases) {
-    order.clear();
+    recorder.order.clear();
     reapplyWindowFonts(&root, variation, 40 + variation);
-    EXPECT_EQ(order, (Seen{"OrderEntry", "BulkUpload", "IssueDetails", "ModifyPrice"}));
+    EXPECT_EQ(recorder.order, (Seen{"OrderEntry", "BulkUpload", "IssueDetails", "ModifyPrice"}));
     EXPECT_EQ(entry->font().pointSize(), window) << variation;
     EXPECT_EQ(heading->font().pointSize(), own) << variation;
     EXPECT_EQ(entry->property("fontStamp").toLongLong(), 40 + variation);
   }
+}
+
+// How many pixels have the colour, and their mean column.
+struct Columns {
+  int pixels = 0;
+  double meanX = 0;
+};
+
+Columns pixelsOf(const QImage& image, QRgb colour) {
+  Columns found;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixel(x, y) == colour) {
+        ++found.pixels;
+        found.meanX += x;
+      }
+  if (found.pixels) found.meanX /= found.pixels;
+  return found;
+}
+
+QImage rendered(DemandChart& chart, QSize size) {
+  chart.resize(size);
+  QImage image(size, QImage::Format_RGB32);
+  chart.render(&image);
+  return image;
+}
+
+TEST(DemandChart, DrawsTheCurveWithFloorLeftOfIndicativeAtAnySize) {
+  DemandChart chart;
+  // The floor below every bid, the indicative price between the levels.
+  const MarketDepthLevel levels[] = {{10500, 300, 2}, {10000, 200, 1}, {10800, 100, 1}};
+  chart.setCurve(demandCurve(levels, "95.00", "106"));
+  for (const QSize size : {QSize(480, 260), QSize(120, 80)}) {
+    const QImage image = rendered(chart, size);
+    const Columns floor = pixelsOf(image, DemandChart::kFloorColor);
+    const Columns indicative = pixelsOf(image, DemandChart::kIndicativeColor);
+    EXPECT_GT(pixelsOf(image, DemandChart::kCurveColor).pixels, size.width() / 4) << size.width();
+    EXPECT_GT(floor.pixels, size.height() / 4) << size.width();
+    EXPECT_GT(indicative.pixels, size.height() / 4) << size.width();
+    EXPECT_LT(floor.meanX, indicative.meanX) << size.width();
+  }
+}
+
+TEST(DemandChart, AnEmptyBookShowsItsTextAndNoCurve) {
+  DemandChart chart;
+  chart.setCurve(demandCurve({}, "95.00", "106"));
+  const QImage image = rendered(chart, QSize(300, 160));
+  EXPECT_EQ(pixelsOf(image, DemandChart::kCurveColor).pixels, 0);
+  EXPECT_EQ(pixelsOf(image, DemandChart::kFloorColor).pixels, 0);
+  EXPECT_LT(pixelsOf(image, image.pixel(0, 0)).pixels, 300 * 160) << "the text is drawn";
 }
 
 }  // namespace

@@ -5,11 +5,14 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QSettings>
+#include <QTabWidget>
 #include <QTableView>
 
+#include "issues/watch_view.h"
 #include "plugin/control_block.h"
 #include "plugin/lifecycle.h"
 #include "plugin/settings_paths.h"
@@ -19,6 +22,8 @@
 #include "ui/list_memory.h"
 #include "ui/ofs_frame.h"
 #include "ui/order_book_widget.h"
+#include "ui/order_history_dialog.h"
+#include "ui/order_number_dialog.h"
 #include "ui/watch_view_widget.h"
 
 namespace {
@@ -60,6 +65,17 @@ class Lists : public testing::Test {
     settle();
   }
   QTableView* list(const char* name) { return frame->findChild<QTableView*>(name); }
+  void add(sOFSCol& issue) {
+    frame->watchView()->core().addIssue(&issue);
+    settle();
+  }
+  static sOFSCol issue(const char* id) {
+    sOFSCol made;
+    made.issueId = id;
+    made.field49165 = "01/11/2026";
+    made.field79 = "30/11/2026";
+    return made;
+  }
   QString totals(const char* name) {
     return frame->findChild<QLabel*>(QString(name) + "Totals")->text();
   }
@@ -68,6 +84,37 @@ class Lists : public testing::Test {
   FakeHost host;
   std::unique_ptr<COFSFrame> frame;
 };
+
+TEST_F(Lists, TheWatchShowsThreeTabsWithTheSameSeventeenColumnsAndNewIssuesOnTop) {
+  auto* tabs = frame->watchView()->findChild<QTabWidget*>();
+  ASSERT_EQ(tabs->count(), 3);
+  EXPECT_EQ(tabs->tabText(0) + tabs->tabText(1) + tabs->tabText(2),
+            "Current IssuesForthcoming IssuesPast Issues");
+  for (const char* name : {"current", "forthcoming", "past"}) {
+    QStringList headers;
+    for (int c = 0; c < list(name)->model()->columnCount(); ++c)
+      headers << list(name)->model()->headerData(c, Qt::Horizontal).toString();
+    EXPECT_EQ(headers, (QStringList{"OFS ID", "Open Date", "Close Date", "Issue Size", "Tick Size",
+                                    "Floor Price", "RMS Price", "Symbol", "Series", "Exchange",
+                                    "CutOff", "Minimun Quantity", "Lot Size", "Company Name",
+                                    "Ceiling Price", "Indicative Price", "Underlying LTP"}))
+        << name;
+  }
+  EXPECT_EQ(frame->watchView()->windowTitle(), "Current Issue List");
+
+  sOFSCol first = issue("I1"), second = issue("I2");
+  CWatchView& core = frame->watchView()->core();
+  core.addIssue(&first);
+  core.addIssue(&second);
+  const QAbstractItemModel* current = list("current")->model();
+  ASSERT_EQ(current->rowCount(), 2);
+  EXPECT_EQ(current->index(0, 0).data().toString() + current->index(1, 0).data().toString(),
+            "I2I1");
+  EXPECT_EQ(list("past")->model()->rowCount(), 0);
+  ASSERT_TRUE(frame->watchView()->selectRows("current", {"I1"}));
+  EXPECT_EQ(core.selectedIssue(), &first);
+  EXPECT_FALSE(frame->watchView()->selectRows("elsewhere", {"I1"}));
+}
 
 TEST_F(Lists, OrderLinesAlignNumbersRightTintByStatusAndDimFrozenOrders) {
   // One order through every status: each leaves a tint of its own on the line.
@@ -110,12 +157,8 @@ TEST_F(Lists, TotalsFollowLiveUpdatesAndTheActiveClient) {
 }
 
 TEST_F(Lists, ColumnsFitTheirTextUntilTheUserSetsWidthsThatAreThenRemembered) {
-  sOFSCol issue;
-  issue.issueId = "I1";
-  issue.field49165 = "01/11/2026";
-  issue.field79 = "30/11/2026";
-  frame->watchView()->core().addIssue(&issue);
-  settle();
+  sOFSCol one = issue("I1");
+  add(one);
   QTableView* current = list("current");
   const QFontMetrics metrics(current->font());
   EXPECT_GT(current->columnWidth(2), metrics.horizontalAdvance("30/11/2026")) << "Close Date";
@@ -123,13 +166,11 @@ TEST_F(Lists, ColumnsFitTheirTextUntilTheUserSetsWidthsThatAreThenRemembered) {
   EXPECT_LT(current->columnWidth(0), 100) << "OFS ID is narrow";
 
   current->horizontalHeader()->resizeSection(2, 177);
-  frame->watchView()->core().addIssue(&issue);
-  settle();
+  add(one);
   EXPECT_EQ(current->columnWidth(2), 177) << "no fitting once the user chose";
   frame.reset();
   openFrame();
-  frame->watchView()->core().addIssue(&issue);
-  settle();
+  add(one);
   EXPECT_EQ(list("current")->columnWidth(2), 177);
 }
 
@@ -154,6 +195,36 @@ TEST_F(Lists, TheFrameFillsTheDocumentAreaFirstThenOpensWhereItWasLeft) {
   EXPECT_FALSE(second->isMaximized());
   EXPECT_EQ(second->geometry(), QRect(20, 30, 500, 300));
   frame.reset();
+}
+
+TEST_F(Lists, TheNumberPromptOpensAHistoryThatTakesAHundredThousandLines) {
+  {
+    OrderHistoryDialog window(*controlBlock());
+    OrderNumberDialog prompt(window);
+    prompt.findChild<QLineEdit*>()->setText("1001");
+    prompt.accept();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.property("heading").toString(), "Order History for Order No.:1001");
+
+    constexpr int kLines = 100000;
+    for (int i = 0; i < kLines; ++i) {
+      auto row = std::make_unique<sOFSOrderInfo>();
+      row->status = "open";
+      row->field49238 = std::to_string(i);
+      controlBlock()->onHistoryRow(std::move(row));
+    }
+    controlBlock()->onHistoryEnd();
+    const QAbstractItemModel* lines = window.findChild<QTableView*>("history")->model();
+    EXPECT_EQ(lines->rowCount(), kLines);
+    EXPECT_EQ(lines->index(kLines - 1, 3).data().toString(), "open");
+    QStringList details;
+    for (QLabel* label : window.findChildren<QLabel*>())
+      if (auto* value = qobject_cast<QLabel*>(label->buddy()))
+        details << label->text() + value->text();
+    EXPECT_EQ(details.size(), 9);
+    EXPECT_TRUE(details.contains("ExchangeOrderNo:99999")) << details.join("|").toStdString();
+  }
+  EXPECT_FALSE(controlBlock()->onHistoryRow);
 }
 
 }  // namespace

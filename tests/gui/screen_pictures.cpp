@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -49,31 +50,23 @@ std::string whatIsWrong(const QImage& image) {
   for (int y = 0; y < image.height(); y += 2)
     for (int x = 0; x < image.width(); x += 2) ++counts[image.pixel(x, y)];
   if (counts.size() < 8) return "fewer than 8 colours";
-  int most = 0;
-  int all = 0;
-  for (int n : counts) {
-    most = std::max(most, n);
-    all += n;
-  }
-  if (most > all * 98 / 100) return "98% one colour";
+  const int all = (image.width() + 1) / 2 * ((image.height() + 1) / 2);
+  if (*std::max_element(counts.begin(), counts.end()) > all * 98 / 100) return "98% one colour";
   return {};
 }
 
 void shoot(QWidget* screen, const QString& dir, const QString& name, const QString& variation) {
-  if (!screen) {
-    std::fprintf(stderr, "%s-%s: the screen did not open\n", qPrintable(name),
-                 qPrintable(variation));
-    ++failures;
-    return;
-  }
-  screen->show();
-  screen->raise();
-  settle();
-  const QImage image = screen->grab().toImage();
-  if (screen->isWindow() && screen->parentWidget()) screen->hide();
   const QString path = dir + "/" + name + "-" + variation + ".png";
-  image.save(path);
-  const std::string wrong = whatIsWrong(image);
+  QImage image;
+  if (screen) {
+    screen->show();
+    screen->raise();
+    settle();
+    image = screen->grab().toImage();
+    if (screen->isWindow() && screen->parentWidget()) screen->hide();
+    image.save(path);
+  }
+  const std::string wrong = screen ? whatIsWrong(image) : "the screen did not open";
   std::printf("%s %dx%d%s%s\n", qPrintable(path), image.width(), image.height(),
               wrong.empty() ? "" : ": ", wrong.c_str());
   if (!wrong.empty()) ++failures;
@@ -113,20 +106,11 @@ void fillBook() {
     deliver(true, std::string(order) + " 63100=101 63001=nse_ipo 10100=ABC-RS 54056=C 31003=U1");
 }
 
-template <typename Screen>
-Screen* opened(QWidget* owner) {
-  return owner->findChild<Screen*>();
-}
-
-QAction* bookCommand(OrderBookWidget* book, const QString& text) {
-  for (QAction* action : book->actions())
-    if (action->text().startsWith(text)) return action;
-  return nullptr;
-}
-
-QAbstractButton* button(QWidget* screen, const QString& text) {
-  for (QAbstractButton* b : screen->findChildren<QAbstractButton*>())
-    if (b->text().remove('&') == text) return b;
+// A menu command or a button by the start of its text, or null.
+template <typename T>
+T* named(const QList<T*>& all, const QString& text) {
+  for (T* one : all)
+    if (one->text().remove('&').startsWith(text)) return one;
   return nullptr;
 }
 
@@ -139,34 +123,33 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
   settle();
   WatchViewWidget* watch = frame.watchView();
   auto* tabs = watch->findChild<QTabWidget*>();
-  const char* tabNames[] = {"watch-current", "watch-forthcoming", "watch-past"};
-  for (int tab = 0; tab < 3; ++tab) {
-    tabs->setCurrentIndex(tab);
-    shoot(&frame, dir, tabNames[tab], variation);
-  }
+  for (int tab = 0; tab < 3; ++tab)
+    tabs->setCurrentIndex(tab),
+        shoot(&frame, dir, "watch-" + tabs->tabText(tab).section(" ", 0, 0).toLower(), variation);
   tabs->setCurrentIndex(0);
   watch->selectRows("current", {"101"});
 
   watch->runCommand(4);
-  shoot(opened<OrderEntryDialog>(watch), dir, "order-entry", variation);
+  shoot(watch->findChild<OrderEntryDialog*>(), dir, "order-entry", variation);
   watch->runCommand(7);
-  shoot(opened<ScripPropertiesDialog>(watch), dir, "scrip-properties", variation);
+  shoot(watch->findChild<ScripPropertiesDialog*>(), dir, "scrip-properties", variation);
   watch->runCommand(8);
-  shoot(opened<MarketDepthDialog>(watch), dir, "market-depth", variation);
+  shoot(watch->findChild<MarketDepthDialog*>(), dir, "market-depth", variation);
   watch->runCommand(10);
-  shoot(opened<IssueDetailsDialog>(watch), dir, "issue-dialog", variation);
+  shoot(watch->findChild<IssueDetailsDialog*>(), dir, "issue-dialog", variation);
 
   watch->runCommand(6);
-  auto* basket = opened<BasketDialog>(watch);
+  auto* basket = watch->findChild<BasketDialog*>();
   if (basket) {
     host.promptLog.queueFile((samples + "/basket_sample.csv").toStdString());
-    if (QAbstractButton* browse = button(basket, "Browse")) browse->click();
+    if (QAbstractButton* browse = named(basket->findChildren<QAbstractButton*>(), "Browse"))
+      browse->click();
   }
   shoot(basket, dir, "basket", variation);
 
   watch->selectRows("current", {"102"});  // the sample bid file's issue
   watch->runCommand(9);
-  auto* bulk = opened<BulkUploadDialog>(watch);
+  auto* bulk = watch->findChild<BulkUploadDialog*>();
   if (bulk) {
     for (QComboBox* kinds : bulk->findChildren<QComboBox*>()) {
       const int neat = kinds->findText("Bids file(NEAT Format)");
@@ -175,7 +158,8 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
       emit kinds->activated(neat);
     }
     host.promptLog.queueFile((samples + "/bulk_neat_sample.csv").toStdString());
-    if (QAbstractButton* browse = button(bulk, "Browse")) browse->click();
+    if (QAbstractButton* browse = named(bulk->findChildren<QAbstractButton*>(), "Browse"))
+      browse->click();
   }
   shoot(bulk, dir, "bulk-upload", variation);
 
@@ -189,12 +173,12 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
   // 1008 and 1002: open limit orders of one issue.
   open->selectionModel()->select(open->model()->index(4, 0),
                                  QItemSelectionModel::Select | QItemSelectionModel::Rows);
-  if (QAction* bulkModify = bookCommand(book, "Bulk Modify Order")) bulkModify->trigger();
+  if (QAction* bulkModify = named(book->actions(), "Bulk Modify Order")) bulkModify->trigger();
   settle();
-  shoot(opened<ModifyPriceDialog>(book), dir, "modify-price", variation);
+  shoot(book->findChild<ModifyPriceDialog*>(), dir, "modify-price", variation);
 
   open->selectRow(0);
-  if (QAction* history = bookCommand(book, "OFS Order History")) history->trigger();
+  if (QAction* history = named(book->actions(), "OFS Order History")) history->trigger();
   settle();
   for (const char* status : {"open pending", "open", "modified"}) {
     auto row = std::make_unique<sOFSOrderInfo>();
@@ -205,7 +189,7 @@ void drawEverything(const QString& dir, const QString& variation, FakeHost& host
     if (controlBlock()->onHistoryRow) controlBlock()->onHistoryRow(std::move(row));
   }
   if (controlBlock()->onHistoryEnd) controlBlock()->onHistoryEnd();
-  shoot(opened<OrderHistoryDialog>(book), dir, "order-history", variation);
+  shoot(book->findChild<OrderHistoryDialog*>(), dir, "order-history", variation);
 
   frame.watchView()->destroyDialogs();
   frame.orderBook()->destroyDialogs();
