@@ -19,9 +19,7 @@ TEST(IssueList, SendsTheExchangesIssuesWithDatesFromTodayThenTheEnd) {
 
 TEST(MalformedRequest, GetsOnlyAnErrorEnd) {
   const struct {
-    const char* message;
-    const char* request;
-    const char* error;
+    const char *message, *request, *error;
   } cases[] = {
       {"om_get_everything", "", "E100 32766=Unknown request om_get_everything"},
       {"om_get_ofs_issues", "53065=A", "E101 32766=Field 63001 is missing"},

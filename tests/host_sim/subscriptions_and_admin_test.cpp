@@ -71,8 +71,7 @@ TEST(IssueAdministration, AddingUpdatesTheIssueOfThatSymbolOrCreatesOneWithTheNe
 // Each request would leave an issue the lists cannot place or a bid cannot be checked against.
 TEST(IssueAdministration, AnAddThatWouldMakeABrokenIssueIsRefusedAndChangesNothing) {
   const struct {
-    const char* change;
-    const char* error;
+    const char *change, *error;
   } cases[] = {
       {"3=", "E101 32766=Field 3 is missing"},
       {"10610=", "E101 32766=Field 10610 is missing"},
