@@ -47,14 +47,9 @@ TEST(DemandCurve, LevelsAccumulateFromTheHighestPriceAndTheAxesHoldEveryPriceSho
 TEST(DemandCurve, StepsDropByEachLevelJustAfterItsPrice) {
   const DemandCurve curve =
       demandCurve(Levels{{10000, 5, 1}, {10500, 3, 1}, {10200, 2, 1}}, "", "");
-  EXPECT_EQ(curve.steps(), (Points{{9950, 10},
-                                   {10000, 10},
-                                   {10000, 5},
-                                   {10200, 5},
-                                   {10200, 3},
-                                   {10500, 3},
-                                   {10500, 0},
-                                   {10550, 0}}));
+  const Points steps{{9950, 10}, {10000, 10}, {10000, 5}, {10200, 5},
+                     {10200, 3}, {10500, 3},  {10500, 0}, {10550, 0}};
+  EXPECT_EQ(curve.steps(), steps);
   EXPECT_TRUE(demandCurve(Levels(5), "100", "").steps().empty());
 }
 

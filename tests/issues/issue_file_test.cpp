@@ -36,9 +36,7 @@ TEST(IssueFileReader, CountsNumbersAndRefusesLinesAsTheUploadDoes) {
   const std::string good = goodLine();
   const std::string longLine = goodLine(std::string(1100, 'n'));
   const struct {
-    const char* name;
-    std::string text;
-    std::string read;
+    std::string name, text, read;
   } cases[] = {
       {"empty file", "", "0/0"},
       {"header only", kHeader + "\n", "0/0"},
