@@ -44,12 +44,10 @@ TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
       "63080=10:15:02");
   reply("32767=mrv_master 63001=nse_ipo 10100=OTHER-RS 55000=1");
   EXPECT_EQ(repaints, 1);
-  EXPECT_EQ(depth.levels()[0].price, "125.50");
-  EXPECT_EQ(depth.levels()[0].quantity, "40");
-  EXPECT_EQ(depth.levels()[0].bids, "3");
-  EXPECT_EQ(depth.levels()[1].price, "0.00");
-  EXPECT_EQ(depth.totalBidQuantity(), "90");
-  EXPECT_EQ(depth.lastUpdate(), "10:15:02");
+  const auto& levels = depth.levels();
+  EXPECT_EQ((Lines{levels[0].price, levels[0].quantity, levels[0].bids, levels[1].price,
+                   depth.totalBidQuantity(), depth.lastUpdate()}),
+            (Lines{"125.50", "40", "3", "0.00", "90", "10:15:02"}));
   const DemandCurve demand = depth.demand();
   EXPECT_EQ(demand.points, (std::vector<DemandPoint>{{12550, 40}}));
   EXPECT_EQ(std::make_pair(demand.floorPaise, demand.indicativePaise),
