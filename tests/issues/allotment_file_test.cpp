@@ -91,8 +91,7 @@ TEST(AllotmentFile, CountsEveryLineButTheHeaderAndNumbersThemAsAnEditorDoes) {
   const struct {
     const char* name;
     AllotmentLayout layout;
-    std::string content;
-    std::string read;  // "lines/accepted", then each refusal as "; number message"
+    std::string content, read;  // read: "lines/accepted", then each refusal as "; number message"
   } cases[] = {
       {"empty file", Bse, "", "0/0"},
       {"header only", Bse, bseHeader, "0/0"},
