@@ -13,8 +13,7 @@ constexpr const char* kIssue =
 TEST(DataFile, RefusesABadLineNamingItAndTheProblem) {
   const std::string issue = kIssue;
   const struct {
-    std::string text;
-    const char* error;
+    std::string text, error;
   } cases[] = {{"account id=A1 name=\"Asha", "line 1: a quote is not closed"},
                {"# comment\n\nbroker id=1", "line 3: unknown record kind broker"},
                {"account A1", "line 1: \"A1\" is not key=value"},

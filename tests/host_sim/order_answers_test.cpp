@@ -24,9 +24,7 @@ TEST(OrderPlacement, RepliesWithTheRowThenBroadcastsPendingThenOpen) {
 
 TEST(OrderPlacement, AcceptedEndsWithoutError) {
   const struct {
-    const char* name;
-    const char* changes;
-    const char* price;
+    const char *name, *changes, *price;
   } cases[] = {{"terminal_account", "54001=T1", "10150"},
                {"cut_off_without_price", "12008=MKT 10306=", "MKT"},
                {"last_day_of_a_one_day_issue", "63100=N2", "10150"}};
@@ -42,10 +40,7 @@ TEST(OrderPlacement, AcceptedEndsWithoutError) {
 // Each row fails at one step; a row failing two gets the first step's message.
 TEST(OrderPlacement, RefusedEndsInErrorAndBroadcastsARejectedOrder) {
   const struct {
-    const char* name;
-    const char* changes;
-    const char* code;
-    const char* text;
+    const char *name, *changes, *code, *text;
   } cases[] = {
       {"held_by_administrator", "63100=N5", "E201", "Issue N5 is not open for bidding"},
       {"closed_yesterday", "63100=N3", "E201", "Issue N3 is not open for bidding"},
@@ -107,12 +102,7 @@ TEST(OrderChanges, ModifyTakesTheNewPriceAndQuantityAndCancelFindsAnyExchangesOr
 TEST(OrderChanges, RefusedEndsInErrorAndKeepsTheOrdersStatus) {
   // `to` hears of the refusal, with the order's kept status; an unknown order tells nobody.
   const struct {
-    const char* message;
-    const char* request;
-    const char* code;
-    const char* text;
-    const char* to;
-    const char* status;
+    const char *message, *request, *code, *text, *to, *status;
   } cases[] = {{"om_modify_order_ofs", "64001=504 12004=10 10306=10100", "E204",
                 "Order 504 is no longer open", "listener", "cancelled"},
                {"om_cancel_order_ofs", "63001=nse_ipo 64001=507", "E205",

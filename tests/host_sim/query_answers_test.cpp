@@ -19,9 +19,7 @@ TEST(IssueList, SendsTheExchangesIssuesWithDatesFromTodayThenTheEnd) {
 
 TEST(MalformedRequest, GetsOnlyAnErrorEnd) {
   const struct {
-    const char* message;
-    const char* request;
-    const char* error;
+    const char *message, *request, *error;
   } cases[] = {
       {"om_get_everything", "", "E100 32766=Unknown request om_get_everything"},
       {"om_get_ofs_issues", "53065=A", "E101 32766=Field 63001 is missing"},
@@ -62,8 +60,7 @@ TEST(Replies, EchoEveryTagOnEveryMessage) {
 
 TEST(OrderReport, ListsTheUsersOrdersOfOneKindOnOneExchange) {
   const struct {
-    const char* message;
-    const char* request;
+    const char *message, *request;
     Lines orders;
   } cases[] = {{"om_order_report_ofs", "63059=C 63001=nse_ipo 54056=C 31003=U1", {"501", "504"}},
                {"om_order_report_ofs", "63059=F 63001=nse_ipo 54056=F 31003=U1", {"502"}},

@@ -71,10 +71,7 @@ void SimFixture::subscribeListeners() {
   exchange.subscribe({{31003, "U1"}, {63001, "bse_ipo"}, {64001, ""}}, &bseListener);
 }
 
-FieldList placement(const std::string& changes) {
-  FieldList fields = fieldsOf(
-      "64030=CNC 63001=nse_ipo 31003=U1 54001=A2 63100=N1 12004=10 12008=L 10306=10150 54056=C "
-      "64170=YES 12005=OFS");
+FieldList changed(FieldList fields, const std::string& changes) {
   for (const auto& change : fieldsOf(changes)) {
     const uint32_t id = change.first;
     auto it = std::find_if(fields.begin(), fields.end(), [id](auto& f) { return f.first == id; });
@@ -85,6 +82,12 @@ FieldList placement(const std::string& changes) {
     }
   }
   return fields;
+}
+
+FieldList placement(const std::string& changes) {
+  return changed(fieldsOf("64030=CNC 63001=nse_ipo 31003=U1 54001=A2 63100=N1 12004=10 12008=L "
+                          "10306=10150 54056=C 64170=YES 12005=OFS"),
+                 changes);
 }
 
 std::vector<std::string> values(const sim::Delivery& d, uint32_t id) {

@@ -49,7 +49,9 @@ class SimFixture {
   NullNotifier bseListener;
 };
 
-// A placement of 10 @ 101.50 on N1 for A2 by U1, with `changes` ("12004=5 10306=") over it.
+// `fields` with `changes` ("12004=5 10306=") over them; an id not there is added.
+FieldList changed(FieldList fields, const std::string& changes);
+// A placement of 10 @ 101.50 on N1 for A2 by U1, with `changes` over it.
 FieldList placement(const std::string& changes);
 
 // One line a message: "reply" or "live", who gets it (asker, listener, bse), the name, then

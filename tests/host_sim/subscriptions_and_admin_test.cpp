@@ -71,8 +71,7 @@ TEST(IssueAdministration, AddingUpdatesTheIssueOfThatSymbolOrCreatesOneWithTheNe
 // Each request would leave an issue the lists cannot place or a bid cannot be checked against.
 TEST(IssueAdministration, AnAddThatWouldMakeABrokenIssueIsRefusedAndChangesNothing) {
   const struct {
-    const char* change;
-    const char* error;
+    const char *change, *error;
   } cases[] = {
       {"3=", "E101 32766=Field 3 is missing"},
       {"10610=", "E101 32766=Field 10610 is missing"},
@@ -88,10 +87,7 @@ TEST(IssueAdministration, AnAddThatWouldMakeABrokenIssueIsRefusedAndChangesNothi
   for (const auto& c : cases) {
     SCOPED_TRACE(c.change);
     SimFixture f;
-    FieldList request = issueAdd("FRESH-RS", "10.00");
-    const auto [id, value] = fieldsOf(c.change).front();
-    for (auto& field : request)
-      if (field.first == id) field.second = value;
+    const FieldList request = changed(issueAdd("FRESH-RS", "10.00"), c.change);
     EXPECT_EQ(describe(f, f.ask("om_add_ofs_issue", request), {32766}),
               (Lines{"reply asker om_add_ofs_issue 32766=" + std::string(c.error)}));
     EXPECT_EQ(describe(f, f.ask("om_get_ofs_issues", fieldsOf("63001=nse_ipo")), {10100}).size(),
@@ -102,10 +98,8 @@ TEST(IssueAdministration, AnAddThatWouldMakeABrokenIssueIsRefusedAndChangesNothi
 // The fixed clock's day is 21/11/2026: an issue added with fixed dates is listed with them.
 TEST(IssueAdministration, AnIssueAddedWithFixedDatesIsListedWithThem) {
   SimFixture f;
-  FieldList request = issueAdd("FRESH-RS", "10.00");
-  for (auto& [id, value] : request)
-    if (id == 49165 || id == 79) value = "25/11/2026";
-  f.ask("om_add_ofs_issue", request);
+  f.ask("om_add_ofs_issue",
+        changed(issueAdd("FRESH-RS", "10.00"), "49165=25/11/2026 79=25/11/2026"));
   EXPECT_EQ(
       describe(f, f.ask("om_get_ofs_issues", fieldsOf("63001=nse_ipo")), {49165, 79, 10100}).at(5),
       "reply asker om_get_ofs_issues 49165=25/11/2026 79=25/11/2026 10100=FRESH-RS");

@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
-#include <map>
-#include <sstream>
 
+#include "tests/support/csv_columns.h"
 #include "tests/support/scratch_dir.h"
 
 namespace {
@@ -18,22 +16,6 @@ const char kNse[] = "n1,n2,ABC,2001,n5,n6,C1,n8,100,105.0,n11,40,100,n14,n15";
 constexpr char kEmpty[] = "Allotment Read Error: Line is Empty ";
 constexpr char kNotCsv[] = "Allotment Read Error: Invalid Format: Not a CSV File ";
 
-// The good line of a layout with some columns (numbered from 1) changed.
-std::string lineOf(const char* good, const std::map<int, std::string>& changes,
-                   const char* end = "\n") {
-  std::vector<std::string> columns;
-  std::istringstream in(good);
-  for (std::string column; std::getline(in, column, ',');) columns.push_back(column);
-  for (const auto& [column, text] : changes) {
-    columns.resize(std::max(columns.size(), static_cast<size_t>(column)));
-    columns[static_cast<size_t>(column - 1)] = text;
-  }
-  std::string line;
-  for (const std::string& text : columns) (line += text) += ',';
-  line.pop_back();
-  return line + end;
-}
-
 struct StepCase {
   const char* name;
   std::map<int, std::string> changes;
@@ -43,7 +25,7 @@ struct StepCase {
 void walk(AllotmentLayout layout, const std::vector<StepCase>& cases) {
   for (const StepCase& c : cases) {
     sOFSAllotmentRow row;
-    const std::string line = lineOf(layout == AllotmentLayout::Bse ? kBse : kNse, c.changes);
+    const std::string line = withColumns(layout == AllotmentLayout::Bse ? kBse : kNse, c.changes);
     EXPECT_EQ(readAllotmentLine(line, layout, row), c.message) << c.name;
   }
 }
@@ -109,8 +91,7 @@ TEST(AllotmentFile, CountsEveryLineButTheHeaderAndNumbersThemAsAnEditorDoes) {
   const struct {
     const char* name;
     AllotmentLayout layout;
-    std::string content;
-    std::string read;  // "lines/accepted", then each refusal as "; number message"
+    std::string content, read;  // read: "lines/accepted", then each refusal as "; number message"
   } cases[] = {
       {"empty file", Bse, "", "0/0"},
       {"header only", Bse, bseHeader, "0/0"},
@@ -119,13 +100,14 @@ TEST(AllotmentFile, CountsEveryLineButTheHeaderAndNumbersThemAsAnEditorDoes) {
       // The long line's first 1,023 bytes are a line of their own; the rest, with no comma,
       // is refused under the same number.
       {"every kind of line", Bse,
-       bseHeader + lineOf(kBse, {}) + lineOf(kBse, {{1, ""}}) + "\n" + std::string(1, '\0') +
-           lineOf(kBse, {}) + lineOf(kBse, {{11, std::string(1100, 'x')}}) + "no comma\n" +
-           lineOf(kBse, {{8, ""}}, ""),
+       bseHeader + withColumns(kBse, {}) + withColumns(kBse, {{1, ""}}) + "\n" +
+           std::string(1, '\0') + withColumns(kBse, {}) +
+           withColumns(kBse, {{11, std::string(1100, 'x')}}) + "no comma\n" +
+           withColumns(kBse, {{8, ""}}, ""),
        "8/2; 3 Symbol cannot be blank; 4" + notCsv + "; 5 " + kEmpty + "; 6" + notCsv + "; 7" +
            notCsv + "; 8 Order Number cannot be blank"},
       {"only the first line can be the header", Nse,
-       nseHeader + lineOf(kNse, {}) + nseHeader + "n1,n2,ABC,,n5\n",
+       nseHeader + withColumns(kNse, {}) + nseHeader + "n1,n2,ABC,,n5\n",
        "3/1; 3 Symbol cannot be blank; 4 Order no cannot be blank"},
   };
   ScratchDir dir;

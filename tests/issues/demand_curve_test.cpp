@@ -19,41 +19,18 @@ struct CurveCase {
 
 TEST(DemandCurve, LevelsAccumulateFromTheHighestPriceAndTheAxesHoldEveryPriceShown) {
   const CurveCase cases[] = {
-      {"unsorted levels, empty places skipped",
-       {{10000, 5, 1}, {10500, 3, 1}, {10200, 2, 1}, {0, 0, 0}, {0, 0, 0}},
-       "",
-       "",
-       {{10500, 3}, {10200, 5}, {10000, 10}},
-       {9950, 10550},
-       {0, 11}},
-      {"empty book keeps the markers' range",
-       Levels(5),
-       "100.00",
-       "105.00",
-       {},
-       {9950, 10550},
-       {0, 1}},
-      {"floor below and indicative above the levels",
-       {{10200, 4, 1}, {10100, 6, 2}},
-       "95",
-       "110.50",
-       {{10200, 4}, {10100, 10}},
-       {9345, 11205},
-       {0, 11}},
-      {"one price twice, a price without quantity",
-       {{10000, 5, 1}, {0, 7, 1}, {10000, 5, 1}, {9000, 0, 0}},
-       "",
-       "",
-       {{10000, 10}},
-       {9500, 10500},
-       {0, 11}},
-      {"texts that are no price mark nothing",
-       {{10000, 100, 4}},
-       "abc",
-       "0",
-       {{10000, 100}},
-       {9500, 10500},
-       {0, 110}},
+      CurveCase("unsorted levels, empty places skipped",
+                {{10000, 5, 1}, {10500, 3, 1}, {10200, 2, 1}, {0, 0, 0}, {0, 0, 0}}, "", "",
+                {{10500, 3}, {10200, 5}, {10000, 10}}, {9950, 10550}, {0, 11}),
+      CurveCase("empty book keeps the markers' range", Levels(5), "100.00", "105.00", {},
+                {9950, 10550}, {0, 1}),
+      CurveCase("floor below and indicative above the levels", {{10200, 4, 1}, {10100, 6, 2}}, "95",
+                "110.50", {{10200, 4}, {10100, 10}}, {9345, 11205}, {0, 11}),
+      CurveCase("one price twice, a price without quantity",
+                {{10000, 5, 1}, {0, 7, 1}, {10000, 5, 1}, {9000, 0, 0}}, "", "", {{10000, 10}},
+                {9500, 10500}, {0, 11}),
+      CurveCase("texts that are no price mark nothing", {{10000, 100, 4}}, "abc", "0",
+                {{10000, 100}}, {9500, 10500}, {0, 110}),
   };
   for (const CurveCase& c : cases) {
     const DemandCurve curve = demandCurve(c.levels, c.floor, c.indicative);
@@ -70,14 +47,9 @@ TEST(DemandCurve, LevelsAccumulateFromTheHighestPriceAndTheAxesHoldEveryPriceSho
 TEST(DemandCurve, StepsDropByEachLevelJustAfterItsPrice) {
   const DemandCurve curve =
       demandCurve(Levels{{10000, 5, 1}, {10500, 3, 1}, {10200, 2, 1}}, "", "");
-  EXPECT_EQ(curve.steps(), (Points{{9950, 10},
-                                   {10000, 10},
-                                   {10000, 5},
-                                   {10200, 5},
-                                   {10200, 3},
-                                   {10500, 3},
-                                   {10500, 0},
-                                   {10550, 0}}));
+  const Points steps{{9950, 10}, {10000, 10}, {10000, 5}, {10200, 5},
+                     {10200, 3}, {10500, 3},  {10500, 0}, {10550, 0}};
+  EXPECT_EQ(curve.steps(), steps);
   EXPECT_TRUE(demandCurve(Levels(5), "100", "").steps().empty());
 }
 

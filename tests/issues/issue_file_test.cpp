@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <sstream>
+#include <tuple>
 
 #include "tests/support/scratch_dir.h"
 
@@ -36,9 +37,7 @@ TEST(IssueFileReader, CountsNumbersAndRefusesLinesAsTheUploadDoes) {
   const std::string good = goodLine();
   const std::string longLine = goodLine(std::string(1100, 'n'));
   const struct {
-    const char* name;
-    std::string text;
-    std::string read;
+    std::string name, text, read;
   } cases[] = {
       {"empty file", "", "0/0"},
       {"header only", kHeader + "\n", "0/0"},
@@ -91,10 +90,8 @@ TEST(IssueFileReader, AnAcceptedLineFillsTheIssueInTheFormsTheListUses) {
       {c.modifyCancelFlag, ""}};
   for (size_t i = 0; i < std::size(fields); ++i)
     EXPECT_EQ(fields[i].first, fields[i].second) << "field " << i;
-  EXPECT_EQ(c.tickSize, 0.5);
-  EXPECT_EQ(c.minQuantity, 20);
-  EXPECT_EQ(c.lotSize, 10);
-  EXPECT_EQ(c.issueSize, 7000.0);
+  EXPECT_EQ(std::tuple(c.tickSize, c.minQuantity, c.lotSize, c.issueSize),
+            std::tuple(0.5, 20, 10, 7000.0));
   // On NSE the series word becomes the exchange's code.
   ASSERT_TRUE(readIssueFileLine(goodLine(), std::nullopt, c, message));
   EXPECT_EQ(c.category + " " + c.symbol, "RS ABC-RS");

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <map>
-#include <sstream>
-
 #include "issues/issue_file.h"
+#include "tests/support/csv_columns.h"
 
 namespace {
 
@@ -21,23 +19,12 @@ const char kGood[] =
 
 using Changes = std::map<int, std::string>;
 
-std::string lineWith(const Changes& changes) {
-  std::vector<std::string> columns;
-  std::istringstream good(kGood);
-  for (std::string column; std::getline(good, column, ',');) columns.push_back(column);
-  for (const auto& [column, text] : changes) columns[column - 1] = text;
-  std::string line;
-  for (const std::string& c : columns) line += c + ",";
-  line.back() = '\n';
-  return line;
-}
-
 // The message for the line, empty when accepted.
 std::string check(const Changes& changes) {
   sOFSCol issue;
   std::string message;
   const std::optional<IssueDay> today = issueFileDate("24/11/2026");
-  return readIssueFileLine(lineWith(changes), today, issue, message) ? "" : message;
+  return readIssueFileLine(withColumns(kGood, changes), today, issue, message) ? "" : message;
 }
 
 const std::string k26(26, 'S');

@@ -6,6 +6,7 @@
 #include "plugin/control_block.h"
 #include "plugin/lifecycle.h"
 #include "tests/support/fake_host.h"
+#include "tests/support/field_text.h"
 #include "tests/support/message_fixtures.h"
 
 namespace {
@@ -19,9 +20,8 @@ class MarketDepthWindow : public testing::Test {
     issue.symbol = "ABC-RS";
   }
   ~MarketDepthWindow() override { exitPlugin(host); }
-  void reply(const FieldList& fields) {
-    auto msg = makeMessage(fields);
-    controlBlock()->OnResponse(msg.get());
+  void reply(const std::string& fields) {
+    controlBlock()->OnResponse(makeMessage(fieldsOf(fields)).get());
   }
 
   FakeHost host;
@@ -39,22 +39,15 @@ TEST_F(MarketDepthWindow, SubscribesOnceAndShowsTheLevelsOfItsIssueOnly) {
 
   int repaints = 0;
   controlBlock()->onMarketDepthChanged = [&] { ++repaints; };
-  reply({{32767, "mrv_master"},
-         {63001, "nse_ipo"},
-         {10100, "ABC-RS"},
-         {55000, "12550"},
-         {55500, "40"},
-         {56000, "3"},
-         {54283, "90"},
-         {63080, "10:15:02"}});
-  reply({{32767, "mrv_master"}, {63001, "nse_ipo"}, {10100, "OTHER-RS"}, {55000, "1"}});
+  reply(
+      "32767=mrv_master 63001=nse_ipo 10100=ABC-RS 55000=12550 55500=40 56000=3 54283=90 "
+      "63080=10:15:02");
+  reply("32767=mrv_master 63001=nse_ipo 10100=OTHER-RS 55000=1");
   EXPECT_EQ(repaints, 1);
-  EXPECT_EQ(depth.levels()[0].price, "125.50");
-  EXPECT_EQ(depth.levels()[0].quantity, "40");
-  EXPECT_EQ(depth.levels()[0].bids, "3");
-  EXPECT_EQ(depth.levels()[1].price, "0.00");
-  EXPECT_EQ(depth.totalBidQuantity(), "90");
-  EXPECT_EQ(depth.lastUpdate(), "10:15:02");
+  const auto& levels = depth.levels();
+  EXPECT_EQ((Lines{levels[0].price, levels[0].quantity, levels[0].bids, levels[1].price,
+                   depth.totalBidQuantity(), depth.lastUpdate()}),
+            (Lines{"125.50", "40", "3", "0.00", "90", "10:15:02"}));
   const DemandCurve demand = depth.demand();
   EXPECT_EQ(demand.points, (std::vector<DemandPoint>{{12550, 40}}));
   EXPECT_EQ(std::make_pair(demand.floorPaise, demand.indicativePaise),
@@ -94,17 +87,12 @@ TEST_F(MarketDepthWindow, SelectedIssueFollowsItsFeedOnlyWhenAskedAndWithTheWind
   controlBlock()->onFeedDepthChanged = [&](const MarketDepthState& d) {
     repaints += selected.isDepthOf(d);
   };
-  auto update = [&](const FieldList& fields) {
-    controlBlock()->OnLiveUpdate(makeMessage(fields).get());
+  auto update = [&](const char* text) {
+    controlBlock()->OnLiveUpdate(makeMessage(fieldsOf(text)).get());
   };
-  update({{63001, "nse_ipo"},
-          {10100, "ABC-RS"},
-          {55000, "12550"},
-          {55500, "40"},
-          {55001, "12500"},
-          {55501, "60"}});
-  update({{63001, "nse_ipo"}, {10100, "ABC-RS"}, {55500, "45"}});
-  update({{63001, "bse_ipo"}, {10100, "ABC-RS"}, {55500, "99"}});
+  update("63001=nse_ipo 10100=ABC-RS 55000=12550 55500=40 55001=12500 55501=60");
+  update("63001=nse_ipo 10100=ABC-RS 55500=45");
+  update("63001=bse_ipo 10100=ABC-RS 55500=99");
   EXPECT_EQ(repaints, 2);
   const DemandCurve curve = selected.demand();
   EXPECT_EQ(curve.points, (std::vector<DemandPoint>{{12550, 45}, {12500, 105}}));
